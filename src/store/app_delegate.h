@@ -1,0 +1,64 @@
+#pragma once
+
+#include "core/calendar.h"
+#include "core/dialogs.h"
+#include "core/notification_center.h"
+#include "store/connector.h"
+#include "store/defaults_store.h"
+#include "store/params.h"
+
+#include <QtCore/QString>
+
+#include <memory>
+
+namespace zelvor {
+
+// What the layers below ask of the main window. Without a window the calls do nothing.
+class Workspace {
+public:
+    virtual ~Workspace() = default;
+    // Opens a stored document as a tab; type is "Product", "Money" or any other text for a fixed asset.
+    virtual void openDocWithID(qint64, const QString&) {}
+    virtual void addContragentReport(qint64, qint64, qint64) {}
+    virtual void setStateString(const QString&) {}
+    virtual void updateCurrencies(const Params&) {}
+};
+
+// The application object: made in main (or in a test), passed by reference to everything that needs the
+// project, the notifications, the moment, the zone or the user's answers. Owns the one connector.
+class AppDelegate {
+public:
+    struct Surroundings {
+        Clock& clock;
+        Calendar calendar;
+        Dialogs& dialogs;
+        DefaultsStore& defaults;
+    };
+
+    explicit AppDelegate(Surroundings surroundings, std::unique_ptr<Connector> connectorToOwn = nullptr);
+    ~AppDelegate();
+    AppDelegate(const AppDelegate&) = delete;
+    AppDelegate& operator=(const AppDelegate&) = delete;
+
+    Connector& connector;
+    NotificationCenter notifications;
+    Clock& clock;
+    Calendar calendar;
+    Dialogs& dialogs;
+    DefaultsStore& defaults;
+
+    // Null stands for no window.
+    void setWorkspace(Workspace* workspace) { m_workspace = workspace; }
+    Workspace& workspace() { return m_workspace ? *m_workspace : m_noWorkspace; }
+
+    // The settings row, or none in a file without one. Never kept by a caller.
+    std::shared_ptr<Params> params() { return connector.select<Params>(1); }
+    qint64 now() const { return clock.now(); }
+
+private:
+    std::unique_ptr<Connector> m_connector;
+    Workspace* m_workspace = nullptr;
+    Workspace m_noWorkspace;
+};
+
+} // namespace zelvor
