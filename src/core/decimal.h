@@ -3,6 +3,7 @@
 #include <QtCore/QString>
 
 #include <compare>
+#include <concepts>
 #include <cstdint>
 
 namespace zelvor {
@@ -33,8 +34,7 @@ public:
     static constexpr int maxScale = 38;
 
     constexpr Decimal() = default;
-    constexpr Decimal(int whole) : m_coefficient(whole) {}
-    constexpr Decimal(std::int64_t whole) : m_coefficient(whole) {}
+    constexpr Decimal(std::integral auto whole) : m_coefficient(whole) {}
     static constexpr Decimal fromParts(Int128 coefficient, int scale) { return Decimal(coefficient, scale); }
     static constexpr Decimal nan()
     {

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "catalogs/tree_model.h"
+
+#include <algorithm>
+
+namespace zelvor {
+
+template <class Family, class Base>
+void TreeModel<Family, Base>::setChild(const Node& child)
+{
+    child->parent = this->weak_from_this();
+    child->parentID = this->id;
+    const auto place = std::upper_bound(children.begin(), children.end(), child,
+                                        [](const Node& a, const Node& b) { return a->name < b->name; });
+    children.insert(place, child);
+}
+
+template <class Family, class Base>
+void TreeModel<Family, Base>::removeChild(const Node& child)
+{
+    const auto place = std::find(children.begin(), children.end(), child);
+    if (place != children.end())
+        removeChildAtIndex(static_cast<std::size_t>(place - children.begin()));
+}
+
+template <class Family, class Base>
+void TreeModel<Family, Base>::removeChildAtIndex(std::size_t index)
+{
+    const Node child = children[index];
+    children.erase(children.begin() + static_cast<std::ptrdiff_t>(index));
+    child->parent.reset();
+    child->parentID = 0;
+}
+
+template <class Family, class Base>
+std::vector<qint64> TreeModel<Family, Base>::getChildrenIDs() const
+{
+    std::vector<qint64> ids;
+    for (const Node& child : children) {
+        if (!child->isGroup())
+            continue;
+        ids.push_back(child->id);
+        const std::vector<qint64> below = child->getChildrenIDs();
+        ids.insert(ids.end(), below.begin(), below.end());
+    }
+    return ids;
+}
+
+template <class Family, class Base>
+bool TreeModel<Family, Base>::isChildOfObject(const Family* candidate) const
+{
+    for (auto above = parent.lock(); above; above = above->parent.lock()) {
+        if (above.get() == candidate)
+            return true;
+    }
+    return false;
+}
+
+template <class Family, class Base>
+QString TreeModel<Family, Base>::getIdentifierForDragging() const
+{
+    return className() + QLatin1Char('_') + QString::number(this->id);
+}
+
+template <class Family, class Base>
+void TreeModel<Family, Base>::insertSelected(bool flag)
+{
+    selected = flag;
+    if (!isGroup())
+        return;
+    for (const Node& child : children)
+        child->insertSelected(flag);
+}
+
+} // namespace zelvor
