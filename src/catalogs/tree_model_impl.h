@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalogs/tree_model.h"
+#include "core/text_order.h"
 
 #include <algorithm>
 
@@ -11,8 +12,9 @@ void TreeModel<Family, Base>::setChild(const Node& child)
 {
     child->parent = this->weak_from_this();
     child->parentID = this->id;
-    const auto place = std::upper_bound(children.begin(), children.end(), child,
-                                        [](const Node& a, const Node& b) { return a->name < b->name; });
+    const auto place =
+        std::upper_bound(children.begin(), children.end(), child,
+                         [](const Node& a, const Node& b) { return textLess(a->name, b->name); });
     children.insert(place, child);
 }
 
