@@ -15,6 +15,12 @@ endif()
 # only what it may know, so a wrong include fails at once.
 function(zelvor_library name)
     file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+    if(NOT sources)
+        # A folder without code only passes its links on.
+        add_library(zelvor_${name} INTERFACE)
+        target_link_libraries(zelvor_${name} INTERFACE zelvor_settings ${ARGN})
+        return()
+    endif()
     add_library(zelvor_${name} STATIC ${sources})
     target_include_directories(zelvor_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
     target_link_libraries(zelvor_${name} PUBLIC zelvor_settings ${ARGN})

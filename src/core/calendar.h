@@ -5,7 +5,8 @@
 
 namespace zelvor {
 
-inline constexpr qint64 secondsPerDay = 86400; // the step of a day everywhere, also across a change of the clock
+// The step of a day everywhere, also across a change of the clock.
+inline constexpr qint64 secondsPerDay = 86400;
 
 // The current moment, in whole seconds since 1970-01-01 00:00:00 UTC.
 class Clock {

@@ -12,17 +12,17 @@ namespace zelvor {
 __extension__ typedef __int128 Int128;
 __extension__ typedef unsigned __int128 UInt128;
 
-// Rounds half to even at a number of digits behind the decimal point. Nothing raises: overflow and a
-// zero divisor give NaN.
+// Rounds half to even at a number of digits behind the decimal point, 0 to 38 of them. A value with fewer
+// digits stays as it is. Nothing raises: overflow and a zero divisor give NaN.
 struct RoundingHandler {
     int scale = 2;
 };
 
-inline constexpr RoundingHandler moneyHandler{2};     // sums and quantities
-inline constexpr RoundingHandler taxRateHandler{3};   // tax rates of a product, percent
-inline constexpr RoundingHandler rateHandler{4};      // exchange rates
-inline constexpr RoundingHandler percentHandler{4};   // percentages of reports, fractions
-inline constexpr RoundingHandler rowTaxHandler{5};    // tax inside a document row
+inline constexpr RoundingHandler moneyHandler{2};   // sums and quantities
+inline constexpr RoundingHandler taxRateHandler{3}; // tax rates of a product, percent
+inline constexpr RoundingHandler rateHandler{4};    // exchange rates
+inline constexpr RoundingHandler percentHandler{4}; // percentages of reports, fractions
+inline constexpr RoundingHandler rowTaxHandler{5};  // tax inside a document row
 inline constexpr RoundingHandler averageCostHandler{9};
 
 // An exact base-10 number: coefficient / 10^scale with a 128-bit coefficient (38 digits, scale 0 to 38),
@@ -69,8 +69,10 @@ public:
     Decimal rounded(RoundingHandler handler) const;
     Decimal negated() const;
     Decimal absolute() const { return isNegative() ? negated() : *this; }
-    // The exact sum, with no rounding.
+    // The exact sum, with no rounding; NaN when it needs more than 38 digits.
     Decimal plus(const Decimal& other) const;
+    // The four operations round once, from all digits of the exact result, and give NaN only when the
+    // rounded result has no form with 38 digits.
     Decimal plus(const Decimal& other, RoundingHandler handler) const;
     Decimal minus(const Decimal& other, RoundingHandler handler) const;
     Decimal times(const Decimal& other, RoundingHandler handler) const;

@@ -78,5 +78,8 @@ QString docTypeCase(DocType type);
 std::optional<DocType> docTypeFromCase(QStringView name);
 // The menu group that holds the case; NilType for the groups themselves and for NilType.
 DocType docTypeMenuGroup(DocType type);
+// The group that the main menu opens to show the case. Nothing for MoneyAdd and DynamicsReport, though both
+// stand in a group: the menu has never opened itself for these two. Nothing for the catalogs either.
+std::optional<DocType> docTypeMenuLookup(DocType type);
 
 } // namespace zelvor

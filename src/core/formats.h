@@ -19,8 +19,13 @@ QString percentText(const Decimal& fraction);
 QString realText(double value);
 // The locale's short date, without the time.
 QString shortDateText(const QDateTime& moment, const QLocale& locale);
-// What a person typed into an amount field, in their locale or with a point: "12,5" and "12.5" are 12.5,
-// "1 234,50" is 1234.50; what is ambiguous or no number is NaN, never another number.
+// What a person typed into an amount field. Blanks and apostrophes only part groups of three. Of point and
+// comma, when both stand there, the last is the decimal separator and the other one parts groups; one that
+// stands more than once parts groups. A single one is the decimal separator, whatever the locale ("12,5" and
+// "12.5" are 12.5 everywhere), but for this: where the locale uses it as grouping and it parts one to three
+// digits, not 0, from exactly three, it parts a group ("1.234" is 1234 in German, 1.234 in English). A comma
+// in that place which the locale does not use at all is ambiguous. Ambiguous texts, wrong groups and what is
+// no number give NaN, never another number.
 Decimal amountFromUserText(QStringView text, const QLocale& locale);
 
 } // namespace zelvor

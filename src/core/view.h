@@ -98,8 +98,6 @@ private:
     int m_selectedRow = -1;
 };
 
-
-
 // A tree whose nodes are records. A null node stands for the top level.
 class OutlineView : public BaseView {
 public:
