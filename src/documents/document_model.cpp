@@ -1,0 +1,32 @@
+#include "documents/document_model.h"
+
+#include "core/localized.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zelvor {
+
+void DocumentModel::insertManager(const std::shared_ptr<Manager>& record)
+{
+    manager = Link<Manager>(record);
+    managerID = record ? record->id : 0;
+}
+
+void DocumentModel::insertContragent(const std::shared_ptr<Contragent>& record)
+{
+    contragent = Link<Contragent>(record);
+    contragentID = record ? record->id : 0;
+}
+
+QString DocumentModel::titleStart() const
+{
+    return titleOpener() + docTypeName(docType());
+}
+
+QString DocumentModel::name() const
+{
+    return titleStart() + u"' #"_s + QString::number(docNumber) +
+           (confirmed ? localized(" (read)") : localized(" (write)"));
+}
+
+} // namespace zelvor

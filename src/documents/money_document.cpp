@@ -1,0 +1,120 @@
+#include "documents/money_document.h"
+
+#include "core/localized.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zelvor {
+
+void MoneyDocument::settAccountFrom(const std::shared_ptr<Account>& record)
+{
+    accountFrom = Link<Account>(record);
+    accountFromID = record ? record->id : 0;
+}
+
+void MoneyDocument::settAccountTo(const std::shared_ptr<Account>& record)
+{
+    accountTo = Link<Account>(record);
+    accountToID = record ? record->id : 0;
+}
+
+void MoneyDocument::settEmployee(const std::shared_ptr<Manager>& record)
+{
+    employee = Link<Manager>(record);
+    employeeID = record ? record->id : 0;
+}
+
+void MoneyDocument::settExpend(const std::shared_ptr<Expend>& record)
+{
+    expend = Link<Expend>(record);
+    expendID = record ? record->id : 0;
+}
+
+QString MoneyDocument::titleOpener() const
+{
+    return localized("Money Document '");
+}
+
+QString MoneyDocument::journalName() const
+{
+    QString title = titleStart() + u'\'';
+    if (docType() == DocType::MoneyToExpend)
+        title += u" ("_s + expend->name + u')';
+    return title + u" #"_s + QString::number(docNumber);
+}
+
+QVariant MoneyDocument::valueForIdentifier(QStringView key) const
+{
+    if (key == u"number")
+        return docNumber;
+    if (key == u"date")
+        return date;
+    if (key == u"confirmed")
+        return confirmed;
+    if (key == u"correction")
+        return correction;
+    if (key == u"journalName")
+        return journalName();
+    if (key == u"sum")
+        return docSum();
+    if (key == u"contragent")
+        return contragentName();
+    if (key == u"stockFrom")
+        return accountFrom->name;
+    if (key == u"stockTo")
+        return accountTo->name;
+    if (key == u"manager")
+        return managerName();
+    if (key == u"comment")
+        return comment;
+    return QString();
+}
+
+const TableInfo& MoneyDocument::table()
+{
+    using Document = MoneyDocument;
+    static constexpr ColumnInfo columns[] = {
+        integerColumn<&Document::docTypeID>("doc_type_id"),
+        integerColumn<&Document::date>("date"),
+        integerColumn<&Document::docNumber>("doc_number"),
+        integerColumn<&Document::contragentID>("contragent_id"),
+        realColumn<Document, &Document::docSum, &Document::setDocSum>("doc_sum"),
+        integerColumn<&Document::managerID>("manager_id"),
+        textColumn<&Document::comment>("comment"),
+        booleanColumn<&Document::confirmed>("is_confirmed"),
+        booleanColumn<&Document::correction>("is_correction"),
+        integerColumn<&Document::parentDocID>("parent_doc_id"),
+        integerColumn<&Document::parentDocTypeID>("parent_doc_type_id"),
+        integerColumn<&Document::payToDate>("pay_to_date"),
+        realColumn<Document, &Document::leftToPay, &Document::setLeftToPay>("left_to_pay"),
+        realColumn<Document, &Document::contragentBalance, &Document::setContragentBalance>(
+            "contragent_balance"),
+        integerColumn<&Document::accountFromID>("account_from_id"),
+        integerColumn<&Document::accountToID>("account_to_id"),
+        booleanColumn<&Document::loans>("is_loans"),
+        integerColumn<&Document::employeeID>("employee_id"),
+        integerColumn<&Document::expendID>("expend_id"),
+        booleanColumn<&Document::variable>("is_variable"),
+        booleanColumn<&Document::divident>("is_divident"),
+        realColumn<Document, &Document::exchangeRate, &Document::setExchangeRate>("exchange_rate"),
+        realColumn<Document, &Document::convertedSum, &Document::setConvertedSum>("converted_sum"),
+        realColumn<Document, &Document::accountFromBalance, &Document::setAccountFromBalance>(
+            "account_from_balance"),
+        realColumn<Document, &Document::accountToBalance, &Document::setAccountToBalance>(
+            "account_to_balance"),
+        realColumn<Document, &Document::managerBalance, &Document::setManagerBalance>("manager_balance"),
+    };
+    static constexpr LinkInfo links[] = {
+        linkOf<&Document::managerID, &Document::manager>(),
+        linkOf<&Document::contragentID, &Document::contragent>(),
+        linkOf<&Document::accountFromID, &Document::accountFrom>(),
+        linkOf<&Document::accountToID, &Document::accountTo>(),
+        linkOf<&Document::employeeID, &Document::employee>(),
+        linkOf<&Document::expendID, &Document::expend>(),
+    };
+    static constexpr IndexInfo indexes[] = {{"ix_money_doc_date", "money_doc(date)"}};
+    static constexpr TableInfo info{"money_doc", columns, links, indexes, nullptr, makeRecord<Document>};
+    return info;
+}
+
+} // namespace zelvor
