@@ -1,0 +1,176 @@
+#include "shell/project_select_window_controller.h"
+
+#include "core/localized.h"
+#include "core/text_order.h"
+#include "shell/project_creation.h"
+
+#include <QtCore/QFileInfo>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+// The file's name without its last dot-part: "a.b.pdb" is the project "a.b".
+QString projectNameOf(const QString& path)
+{
+    return QFileInfo(path).completeBaseName();
+}
+
+// The typed name decides: underscores for blanks, the extension ".pdb" whatever the panel added.
+QString projectPathOf(const QString& chosen)
+{
+    QString name = QFileInfo(chosen).fileName();
+    if (name.endsWith(u".pdb"_s))
+        name.chop(4);
+    return QFileInfo(chosen).absolutePath() + u'/' + businessKey(name) + u".pdb"_s;
+}
+
+} // namespace
+
+QString businessKey(const QString& name)
+{
+    QString key = name;
+    return key.replace(u' ', u'_');
+}
+
+ProjectSelectWindowController::ProjectSelectWindowController(AppDelegate& owner) : ModelController(owner)
+{
+    tableView.onUserChange = [this] { tableViewSelectionDidChange(); };
+    openButton.onUserChange = [this] { openProject(); };
+    deleteButton.onUserChange = [this] { deleteProject(); };
+    tableViewSelectionDidChange();
+}
+
+void ProjectSelectWindowController::showWindow()
+{
+    windowTitle.setText(localized("Project Management"));
+    initRecentBusinesses();
+    window.open();
+}
+
+void ProjectSelectWindowController::initRecentBusinesses()
+{
+    businesses.clear();
+    const QMap<QString, QString> known = appDelegate.defaults.businesses();
+    for (auto entry = known.begin(); entry != known.end(); ++entry) {
+        QString name = entry.key();
+        businesses.push_back({name.replace(u'_', u' '), entry.value()});
+    }
+    std::ranges::stable_sort(businesses,
+                             [](const Business& a, const Business& b) { return textLess(a.name, b.name); });
+    tableView.selectRow(-1);
+    tableViewSelectionDidChange();
+}
+
+void ProjectSelectWindowController::tableViewSelectionDidChange()
+{
+    const bool selected = selectedBusiness() != nullptr;
+    openButton.setEnabled(selected);
+    deleteButton.setEnabled(selected);
+}
+
+const Business* ProjectSelectWindowController::selectedBusiness() const
+{
+    const int row = tableView.selectedRow();
+    return row >= 0 && row < static_cast<int>(businesses.size()) ? &businesses[static_cast<std::size_t>(row)]
+                                                                 : nullptr;
+}
+
+void ProjectSelectWindowController::createNewBusiness()
+{
+    const std::optional<QString> chosen = appDelegate.dialogs.savePath(
+        {localized("Creating new Business"), localized("Name"), localized("Create"), u"pdb"_s});
+    if (!chosen)
+        return;
+    const QString path = projectPathOf(*chosen);
+    if (!createProject(appDelegate.connector, path)) {
+        reportUnopened(path);
+        return;
+    }
+    projectOpened(registerProject(path));
+}
+
+void ProjectSelectWindowController::openExistingProject()
+{
+    const std::optional<QString> path = appDelegate.dialogs.openPath(
+        {localized("Open Existing Project"), localized("Name"), localized("Open"), {u"pdb"_s}});
+    if (!path)
+        return;
+    if (!appDelegate.connector.open(*path)) {
+        reportUnopened(*path);
+        return;
+    }
+    projectOpened(registerProject(*path));
+}
+
+void ProjectSelectWindowController::openProject()
+{
+    const Business* selected = selectedBusiness();
+    if (!selected)
+        return;
+    const Business business = *selected;
+    if (appDelegate.connector.open(business.url))
+        projectOpened(businessKey(business.name));
+    else if (QFileInfo::exists(business.url))
+        reportUnopened(business.url);
+    else
+        offerToForget(business);
+}
+
+QString ProjectSelectWindowController::registerProject(const QString& path)
+{
+    const QString key = businessKey(projectNameOf(path));
+    QMap<QString, QString> known = appDelegate.defaults.businesses();
+    known.insert(key, QFileInfo(path).absoluteFilePath());
+    appDelegate.defaults.setBusinesses(known);
+    return key;
+}
+
+void ProjectSelectWindowController::projectOpened(const QString& key)
+{
+    appDelegate.defaults.setDefaultBusiness(key);
+    appDelegate.defaults.synchronize();
+    initRecentBusinesses();
+    window.close();
+    if (onProjectOpened)
+        onProjectOpened();
+}
+
+void ProjectSelectWindowController::reportUnopened(const QString& path)
+{
+    const QString& reason = appDelegate.connector.openError();
+    appDelegate.dialogs.showAlert(
+        {localized("Can't open project file!"), reason.isEmpty() ? path : reason, {localized("Close")}, 0});
+}
+
+void ProjectSelectWindowController::offerToForget(const Business& business)
+{
+    Alert alert;
+    alert.messageText = localized("Can't find project file!");
+    alert.informativeText = localized("Project ") + business.name +
+                            localized(" is not found at specified path. Do you wish to delete useless line?");
+    alert.buttons = {localized("Delete"), localized("Cancel")};
+    appDelegate.dialogs.ask(alert, [this](int answer) {
+        if (answer == firstButton)
+            deleteProject();
+    });
+}
+
+void ProjectSelectWindowController::deleteProject()
+{
+    const Business* selected = selectedBusiness();
+    if (!selected)
+        return;
+    QMap<QString, QString> known = appDelegate.defaults.businesses();
+    known.remove(businessKey(selected->name));
+    appDelegate.defaults.setBusinesses(known);
+    appDelegate.defaults.removeDefaultBusiness();
+    appDelegate.defaults.synchronize();
+    initRecentBusinesses();
+}
+
+} // namespace zelvor

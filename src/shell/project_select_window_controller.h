@@ -1,0 +1,52 @@
+#pragma once
+
+#include "core/business.h"
+#include "core/outlets.h"
+#include "store/model_controller.h"
+
+#include <QtCore/QString>
+
+#include <functional>
+#include <vector>
+
+namespace zelvor {
+
+// "Project Management": lists the known projects, creates, opens and forgets them. The list lies in the
+// user's defaults, in no project file; forgetting a project leaves its file alone.
+class ProjectSelectWindowController : public ModelController {
+public:
+    explicit ProjectSelectWindowController(AppDelegate& appDelegate);
+
+    std::vector<Business> businesses; // sorted by name
+    TableOutlet tableView{QStringLiteral("tableView")};
+    Button openButton{QStringLiteral("openButton")};
+    Button deleteButton{QStringLiteral("deleteButton")};
+    Label windowTitle{QStringLiteral("windowTitle")};
+    Popover window{QStringLiteral("window")}; // open while it is on the screen
+
+    // A project was opened or created: this window has closed, the default currency is to be checked.
+    std::function<void()> onProjectOpened;
+
+    void showWindow();
+    void initRecentBusinesses();
+    void tableViewSelectionDidChange();
+    void createNewBusiness();
+    void openExistingProject();
+    void openProject();
+    void deleteProject();
+
+    // Puts a project among the known ones under its file's name and makes it the one to open at the next
+    // start. Answers its key.
+    QString registerProject(const QString& path);
+
+private:
+    const Business* selectedBusiness() const;
+    void projectOpened(const QString& key);
+    void reportUnopened(const QString& path);
+    void offerToForget(const Business& business);
+};
+
+// The key of a project in the defaults: its name with "_" for blanks.
+QString businessKey(const QString& name);
+
+} // namespace zelvor
