@@ -1,3 +1,15 @@
+# Quicker builds where the tools are there; what the caller has chosen stands.
+find_program(ZELVOR_CCACHE ccache)
+foreach(language C CXX)
+    if(ZELVOR_CCACHE AND NOT DEFINED CMAKE_${language}_COMPILER_LAUNCHER)
+        set(CMAKE_${language}_COMPILER_LAUNCHER ${ZELVOR_CCACHE})
+    endif()
+endforeach()
+find_program(ZELVOR_LLD ld.lld)
+if(ZELVOR_LLD AND NOT CMAKE_EXE_LINKER_FLAGS MATCHES "-fuse-ld=")
+    add_link_options(-fuse-ld=lld)
+endif()
+
 # One interface target carries the compiler settings that every part of the program shares.
 add_library(zelvor_settings INTERFACE)
 target_compile_options(zelvor_settings INTERFACE
