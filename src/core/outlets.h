@@ -100,7 +100,7 @@ private:
 class PopUpButton : public Outlet {
 public:
     struct Item {
-        QString title;
+        QString title = {};
         qint64 tag = 0;
         QString toolTip = {};
         QString image = {};
