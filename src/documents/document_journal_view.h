@@ -1,0 +1,35 @@
+#pragma once
+
+#include "core/outlets.h"
+#include "core/view.h"
+#include "documents/document_model.h"
+
+#include <memory>
+#include <vector>
+
+namespace zelvor {
+
+class DocumentJournalViewController;
+
+// The table of a document journal.
+class DocumentJournalView : public TableView {
+public:
+    explicit DocumentJournalView(DocumentJournalViewController& controller);
+
+    // The documents in the order shown, as they were read last.
+    std::vector<std::shared_ptr<DocumentModel>> documents;
+
+    std::vector<ViewColumn> columns() const override;
+    int numberOfRows() const override;
+    QVariant value(int row, const QString& identifier) const override;
+    // By "number", "date", "sum" or "contragent".
+    void sort(const QString& key, bool ascending) override;
+    void doubleAction(int row) override;
+    // None outside the rows.
+    std::shared_ptr<DocumentModel> documentAt(int row) const;
+
+private:
+    DocumentJournalViewController& m_controller;
+};
+
+} // namespace zelvor

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "core/notification_center.h"
+#include "documents/document_view_controller.h"
+#include "documents/money_document.h"
+#include "documents/money_document_view.h"
+
+#include <memory>
+#include <vector>
+
+namespace zelvor {
+
+class UserWrite;
+
+// The form of a money document: choosing its parties, saving it as a draft, deleting the draft, confirming
+// it. Actions answer whether they were carried out; a refused confirmation has shown an alert and changed
+// nothing, neither in the file nor in the document.
+//
+// Who fills the form without a screen: prepareData(), then the sum, the parties by their ids, and last the
+// received sum where one is given. The rate between two accounts is worked out when the second is chosen.
+class MoneyDocumentViewController final : public DocumentViewController {
+public:
+    // A new document has its type and nothing else.
+    MoneyDocumentViewController(AppDelegate& appDelegate, std::shared_ptr<MoneyDocument> document);
+    ~MoneyDocumentViewController() override;
+
+    const std::shared_ptr<MoneyDocument> document;
+    MoneyDocumentView mainView;
+    bool justConfirmed = false; // closing the tab then lets go of the choosers
+
+    DocumentModel& documentModel() override { return *document; }
+    QStringList missingInputs() const override { return mainView.missingInputs(); }
+    void prepareData() override;
+    void clearSelf() override;
+
+    // What the document's type uses.
+    bool accountFromEnabled() const;
+    bool accountToEnabled() const;
+    bool contragentEnabled() const;
+    bool employeeEnabled() const;
+    bool expendEnabled() const;
+    bool sumToEnabled() const;
+
+    void setNewContragent(const std::shared_ptr<Contragent>& contragent);
+    void clearContragent();
+    void setNewExpend(const std::shared_ptr<Expend>& expend);
+    void clearExpend();
+    // The record with that id, 0 for none. False, and nothing chosen, when there is no such record.
+    bool setContragentFromID(qint64 contragentID);
+    bool setExpendFromID(qint64 expendID);
+    bool setManagerFromID(qint64 managerID); // the responsible employee
+
+    bool writeDoc();
+    bool deleteDoc();
+    bool confirmDoc();
+    void updateInterface();
+
+private:
+    struct Confirmation; // the steps by type, and what is told afterwards
+    bool runConfirmation(UserWrite& write);
+    bool checkDate();
+    bool checkAccountBalance();
+    bool minusMoneyFromAccount();
+    bool plusMoneyToAccount();
+    bool changeContragentBalance();
+    bool changeEmployeeBalance();
+    bool checkProductDocs();
+    void postConfirmed();
+
+    bool isStillDraft();
+    void takeReceivedSum();
+    void observeCatalogs();
+
+    std::vector<NotificationCenter::Observation> m_observations;
+};
+
+} // namespace zelvor

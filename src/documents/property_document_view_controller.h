@@ -1,0 +1,83 @@
+#pragma once
+
+#include "core/notification_center.h"
+#include "documents/document_view_controller.h"
+#include "documents/property_document.h"
+#include "documents/property_document_view.h"
+
+#include <memory>
+#include <vector>
+
+namespace zelvor {
+
+class UserWrite;
+
+// The form of a fixed-asset document. There is no draft: the document, and an asset that comes with it, are
+// stored by the confirmation alone. A refused confirmation has shown an alert and changed nothing, neither in
+// the file nor in the document.
+class PropertyDocumentViewController final : public DocumentViewController {
+public:
+    // A new document has its type and nothing else.
+    PropertyDocumentViewController(AppDelegate& appDelegate, std::shared_ptr<PropertyDocument> document);
+    ~PropertyDocumentViewController() override;
+
+    const std::shared_ptr<PropertyDocument> document;
+    NumberField docSum{QStringLiteral("docSum")};
+    NumberField currentCost{QStringLiteral("currentCost")};
+    NumberField amortizationPeriod{QStringLiteral("amortizationPeriod")}; // months
+    NumberField deferment{QStringLiteral("deferment")};                   // days
+    Slider defermentSlider{QStringLiteral("defermentSlider")};
+    Popover propertySelectPopover{QStringLiteral("propertySelectPopover")};
+    PropertyDocumentView mainView;
+
+    DocumentModel& documentModel() override { return *document; }
+    QStringList missingInputs() const override { return mainView.missingInputs(); }
+    void prepareData() override;
+
+    // What the document's type uses.
+    bool contragentEnabled() const;
+    bool propertyTextEnabled() const;      // the asset's name is typed
+    bool propertyControllsEnabled() const; // the asset is chosen from the list
+    bool deleteBasisEnabled() const;
+    bool deleteBasisHidden() const;
+    bool sumEnabled() const;
+    bool controlsEnabled() const; // the period and the like
+
+    void setNewContragent(const std::shared_ptr<Contragent>& contragent);
+    void clearContragent();
+    // The assets that are held, read when the popover opens.
+    std::vector<std::shared_ptr<Property>> properties;
+    void prepareProperties();
+    void selectProperty();
+    void addProperty(const std::shared_ptr<Property>& property);
+    void clearProperty();
+    void cancelPopover();
+    // Fills the pop-up of reasons; until then it holds only the selected one.
+    void prepareDeleteBasises();
+    // The record with that id, 0 for none. False, and nothing chosen, when there is no such record, or the
+    // asset is gone.
+    bool setContragentFromID(qint64 contragentID);
+    bool setPropertyFromID(qint64 propertyID);
+    bool setDeleteBasisFromID(qint64 basisID);
+    bool setManagerFromID(qint64 managerID); // the responsible employee
+
+    bool confirmDoc();
+    void updateInterface();
+
+private:
+    struct Confirmation; // the steps by type, and what is told afterwards
+    bool runConfirmation(UserWrite& write);
+    bool readPropertyAnew();
+    bool checkDate();
+    bool checkProductDocs();
+    bool changeContragentBalance();
+    void finalizeDocument();
+    bool storeProperty(UserWrite& write);
+    bool storeDocument(UserWrite& write);
+    void postConfirmed();
+
+    std::vector<NotificationCenter::Observation> m_observations;
+    bool m_propertiesStale = true;
+};
+
+} // namespace zelvor
