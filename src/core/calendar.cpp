@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <limits>
 
 namespace zelvor {
 
@@ -22,39 +23,6 @@ qint64 localSeconds(int year, int month, int day)
     return (sys_days(first / 1).time_since_epoch().count() + day - 1) * secondsPerDay;
 }
 
-qint64 offsetAt(const QTimeZone& zone, qint64 moment)
-{
-    return zone.offsetFromUtc(QDateTime::fromSecsSinceEpoch(moment, Qt::UTC));
-}
-
-// The first moment after `before`, at most at `after`, at which the clock no longer has the offset that it
-// has at `before`.
-qint64 changeBetween(const QTimeZone& zone, qint64 before, qint64 after)
-{
-    const qint64 offset = offsetAt(zone, before);
-    while (after - before > 1) {
-        const qint64 middle = before + (after - before) / 2;
-        (offsetAt(zone, middle) == offset ? before : after) = middle;
-    }
-    return after;
-}
-
-// The first moment at which a clock in the zone shows this local time, or the first after it when the clock
-// skips it. An offset is less than a day, so a day before and a day after embrace every candidate.
-qint64 firstMoment(const QTimeZone& zone, qint64 local)
-{
-    const qint64 before = local - secondsPerDay;
-    const qint64 after = local + secondsPerDay;
-    const qint64 oldOffset = offsetAt(zone, before);
-    const qint64 newOffset = offsetAt(zone, after);
-    if (oldOffset == newOffset)
-        return local - oldOffset;
-    const qint64 change = changeBetween(zone, before, after);
-    if (local - oldOffset < change)
-        return local - oldOffset;
-    return std::max(local - newOffset, change);
-}
-
 } // namespace
 
 qint64 SystemClock::now() const
@@ -64,10 +32,67 @@ qint64 SystemClock::now() const
         .count();
 }
 
+// What the zone itself tells of the moment.
+Calendar::Span Calendar::spanAt(qint64 moment) const
+{
+    const QDateTime time = QDateTime::fromSecsSinceEpoch(moment, Qt::UTC);
+    Span span{std::numeric_limits<qint64>::min(), std::numeric_limits<qint64>::max(),
+              m_zone.offsetFromUtc(time)};
+    if (!m_zone.hasTransitions())
+        return span;
+    const QTimeZone::OffsetData previous = m_zone.previousTransition(time.addSecs(1));
+    if (previous.atUtc.isValid())
+        span.from = previous.atUtc.toSecsSinceEpoch();
+    const QTimeZone::OffsetData next = m_zone.nextTransition(time);
+    if (next.atUtc.isValid())
+        span.until = next.atUtc.toSecsSinceEpoch();
+    return span;
+}
+
+qint64 Calendar::offsetAt(qint64 moment) const
+{
+    const auto holds = [moment](const Span& span) { return span.from <= moment && moment < span.until; };
+    if (m_lastSpan < m_spans.size() && holds(m_spans[m_lastSpan]))
+        return m_spans[m_lastSpan].offset;
+    auto place = std::ranges::upper_bound(m_spans, moment, {}, &Span::until);
+    if (place == m_spans.end() || !holds(*place))
+        place = m_spans.insert(place, spanAt(moment));
+    m_lastSpan = static_cast<std::size_t>(place - m_spans.begin());
+    return place->offset;
+}
+
+// The first moment after `before`, at most at `after`, at which the clock no longer has the offset that it
+// has at `before`.
+qint64 Calendar::changeBetween(qint64 before, qint64 after) const
+{
+    const qint64 offset = offsetAt(before);
+    while (after - before > 1) {
+        const qint64 middle = before + (after - before) / 2;
+        (offsetAt(middle) == offset ? before : after) = middle;
+    }
+    return after;
+}
+
+// The first moment at which a clock in the zone shows this local time, or the first after it when the clock
+// skips it. An offset is less than a day, so a day before and a day after embrace every candidate.
+qint64 Calendar::firstMoment(qint64 local) const
+{
+    const qint64 before = local - secondsPerDay;
+    const qint64 after = local + secondsPerDay;
+    const qint64 oldOffset = offsetAt(before);
+    const qint64 newOffset = offsetAt(after);
+    if (oldOffset == newOffset)
+        return local - oldOffset;
+    const qint64 change = changeBetween(before, after);
+    if (local - oldOffset < change)
+        return local - oldOffset;
+    return std::max(local - newOffset, change);
+}
+
 DayComponents Calendar::components(qint64 moment) const
 {
     const qint64 held = std::clamp(moment, -outermostMoment, outermostMoment);
-    const std::chrono::sys_seconds local{std::chrono::seconds(held + offsetAt(m_zone, held))};
+    const std::chrono::sys_seconds local{std::chrono::seconds(held + offsetAt(held))};
     const year_month_day day{std::chrono::floor<days>(local)};
     return {static_cast<int>(day.year()), static_cast<int>(static_cast<unsigned>(day.month())),
             static_cast<int>(static_cast<unsigned>(day.day()))};
@@ -75,7 +100,7 @@ DayComponents Calendar::components(qint64 moment) const
 
 qint64 Calendar::startOfDay(const DayComponents& day) const
 {
-    return firstMoment(m_zone, localSeconds(day.year, day.month, day.day));
+    return firstMoment(localSeconds(day.year, day.month, day.day));
 }
 
 qint64 Calendar::normalizedDate(qint64 moment, bool isStart) const
@@ -101,8 +126,8 @@ qint64 Calendar::startOfReportPeriod(qint64 moment, qint64 reportPeriod) const
 
 qint64 Calendar::moment(const QDate& date, const QTime& time) const
 {
-    return firstMoment(m_zone, localSeconds(date.year(), date.month(), date.day()) +
-                                   time.msecsSinceStartOfDay() / 1000);
+    return firstMoment(localSeconds(date.year(), date.month(), date.day()) +
+                       time.msecsSinceStartOfDay() / 1000);
 }
 
 QDateTime Calendar::dateTime(qint64 moment) const

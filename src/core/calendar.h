@@ -3,6 +3,8 @@
 #include <QtCore/QDateTime>
 #include <QtCore/QTimeZone>
 
+#include <vector>
+
 namespace zelvor {
 
 // The step of a day everywhere, also across a change of the clock.
@@ -40,7 +42,8 @@ struct DayComponents {
     friend bool operator==(const DayComponents&, const DayComponents&) = default;
 };
 
-// Calendar work in one time zone. All moments are whole seconds since 1970 UTC.
+// Calendar work in one time zone. All moments are whole seconds since 1970 UTC. Remembers what it learned of
+// the zone, so one calendar serves one thread.
 class Calendar {
 public:
     explicit Calendar(const QTimeZone& zone) : m_zone(zone) {}
@@ -63,7 +66,23 @@ public:
     QDateTime dateTime(qint64 moment) const;
 
 private:
+    // A stretch of time, from inclusive to exclusive, in which the zone keeps one offset.
+    struct Span {
+        qint64 from;
+        qint64 until;
+        qint64 offset;
+    };
+
+    qint64 offsetAt(qint64 moment) const;
+    Span spanAt(qint64 moment) const;
+    qint64 changeBetween(qint64 before, qint64 after) const;
+    qint64 firstMoment(qint64 local) const;
+
     QTimeZone m_zone;
+    // Asking the zone costs microseconds, and one confirmation asks many times. In order of time; the last
+    // one used is tried first.
+    mutable std::vector<Span> m_spans;
+    mutable std::size_t m_lastSpan = 0;
 };
 
 // A period number is the year and the month written one after the other without a leading zero: 20153 is

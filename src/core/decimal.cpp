@@ -428,6 +428,10 @@ Decimal Decimal::plus(const Decimal& other) const
 
 Decimal Decimal::plus(const Decimal& other, RoundingHandler handler) const
 {
+    // Sums of one scale are what the books add all day.
+    if (m_scale == other.m_scale && !isNaN() && m_scale <= handler.scale && fits64Bits(m_coefficient) &&
+        fits64Bits(other.m_coefficient))
+        return fromParts(m_coefficient + other.m_coefficient, m_scale);
     const Decimal exact = plus(other);
     if (!exact.isNaN())
         return exact.rounded(handler);
@@ -491,6 +495,9 @@ std::partial_ordering Decimal::compare(const Decimal& a, const Decimal& b)
     if (a.m_scale == b.m_scale || a.isNegative() != b.isNegative())
         return a.m_coefficient <=> b.m_coefficient;
     const int common = std::max(a.m_scale, b.m_scale);
+    if (common <= digitsOf64Bits && fits64Bits(a.m_coefficient) && fits64Bits(b.m_coefficient))
+        return a.m_coefficient * static_cast<Int128>(powerOfTen(common - a.m_scale)) <=>
+               b.m_coefficient * static_cast<Int128>(powerOfTen(common - b.m_scale));
     const WideInteger sizeA = wideProduct(magnitude(a.m_coefficient), powerOfTen(common - a.m_scale));
     const WideInteger sizeB = wideProduct(magnitude(b.m_coefficient), powerOfTen(common - b.m_scale));
     if (sizeA == sizeB)

@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <initializer_list>
+#include <limits>
+#include <random>
 
 using namespace zelvor;
 
@@ -77,20 +78,35 @@ TEST(Calendar, aDayThatTheZoneLeftOutIsTheStartOfTheNext)
     EXPECT_EQ(samoa.startOfDay({2012, 1, 1}), utc(2011, 12, 31, 10));
 }
 
-TEST(Calendar, everyHourOfYearsLiesInTheDayThatItsStartBegins)
+TEST(Calendar, momentsOfTwoCenturiesLieInTheDaysThatTheirStartsBegin)
 {
-    for (const char* name :
-         {"America/Sao_Paulo", "Asia/Beirut", "Europe/Berlin", "America/Havana", "Africa/Casablanca",
-          "Australia/Lord_Howe", "Asia/Kathmandu", "Pacific/Apia", "Africa/Cairo"}) {
+    for (const char* name : {"America/Sao_Paulo", "Asia/Beirut", "Europe/Berlin", "America/Havana", "UTC",
+                             "Africa/Casablanca", "Australia/Lord_Howe", "Asia/Kathmandu", "Pacific/Apia"}) {
         const Calendar calendar = calendarOf(name);
-        for (qint64 moment = utc(2010, 1, 1); moment < utc(2019, 1, 1); moment += 3 * 3600 + 7) {
+        std::mt19937_64 source(20150131);
+        std::uniform_int_distribution<qint64> moments(utc(1900, 1, 1), utc(2100, 1, 1));
+        for (int i = 0; i < 10000; ++i) {
+            const qint64 moment = moments(source);
             const qint64 start = calendar.clearDate(moment);
-            const QDateTime local = calendar.dateTime(moment);
             const DayComponents day = calendar.components(moment);
-            ASSERT_EQ(QDate(day.year, day.month, day.day), local.date()) << name << moment;
+            ASSERT_EQ(QDate(day.year, day.month, day.day), calendar.dateTime(moment).date())
+                << name << moment;
             ASSERT_LE(start, moment) << name << moment;
             ASSERT_EQ(calendar.components(start), day) << name << moment;
             ASSERT_NE(calendar.components(start - 1), day) << name << moment;
+        }
+    }
+}
+
+TEST(Calendar, everyHourAroundTheChangesOfTheClockLiesInItsDay)
+{
+    for (const char* name : {"America/Sao_Paulo", "Asia/Beirut", "America/Havana", "Africa/Cairo"}) {
+        const Calendar calendar = calendarOf(name);
+        for (qint64 moment = utc(2010, 1, 1); moment < utc(2016, 1, 1); moment += 1800) {
+            const qint64 start = calendar.clearDate(moment);
+            const QDate day = calendar.dateTime(moment).date();
+            ASSERT_EQ(calendar.dateTime(start).date(), day) << name << moment;
+            ASSERT_NE(calendar.dateTime(start - 1).date(), day) << name << moment;
         }
     }
 }
@@ -132,6 +148,8 @@ TEST(Calendar, aDamagedDateDoesNotOverflow)
     const Calendar calendar = calendarOf("Europe/Berlin");
     EXPECT_GT(calendar.components(std::numeric_limits<qint64>::max()).year, 9999);
     EXPECT_LT(calendar.components(std::numeric_limits<qint64>::min()).year, 0);
+    EXPECT_EQ(calendar.components(utc(2015, 7, 1, 22)), (DayComponents{2015, 7, 2}));
+    EXPECT_EQ(calendar.components(utc(2015, 1, 1, 22)), (DayComponents{2015, 1, 1}));
 }
 
 TEST(FixedClock, standsWhereItWasSet)
