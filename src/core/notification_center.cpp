@@ -103,7 +103,8 @@ struct NotificationCenter::State {
         // Handlers that are registered meanwhile hear the next posting, not this one.
         const std::size_t count = list.size();
         for (std::size_t i = 0; i < count; ++i) {
-            const std::shared_ptr<Registration> registration = list[i];
+            // The list may move while the handler runs; what it holds stays until the delivery is over.
+            Registration* const registration = list[i].get();
             if (!registration->ended)
                 registration->handler(notification);
         }
