@@ -3,6 +3,7 @@
 #include "store/table_info.h"
 
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #include <functional>
 #include <initializer_list>
@@ -90,18 +91,20 @@ public:
     // absoluteFree the rows of a whole SELECT, whose columns fill the class's columns in order. A failing
     // statement gives an empty list.
     template <class Record>
-    std::vector<std::shared_ptr<Record>> freeSQL(std::string_view sql = {}, std::span<const Parameter> params = {},
+    std::vector<std::shared_ptr<Record>> freeSQL(std::string_view sql = {},
+                                                 std::span<const Parameter> params = {},
                                                  Fill fill = Fill::Everything, bool absoluteFree = false)
     {
         std::vector<std::shared_ptr<Record>> records;
-        readRecords(Record::table(), sql, params, fill, absoluteFree, [&records](std::shared_ptr<TableModel> r) {
-            records.push_back(std::static_pointer_cast<Record>(std::move(r)));
-        });
+        readRecords(Record::table(), sql, params, fill, absoluteFree,
+                    [&records](std::shared_ptr<TableModel> r) {
+                        records.push_back(std::static_pointer_cast<Record>(std::move(r)));
+                    });
         return records;
     }
     template <class Record>
-    std::vector<std::shared_ptr<Record>> freeSQL(std::string_view sql, std::initializer_list<Parameter> params,
-                                                 Fill fill = Fill::Everything)
+    std::vector<std::shared_ptr<Record>>
+    freeSQL(std::string_view sql, std::initializer_list<Parameter> params, Fill fill = Fill::Everything)
     {
         return freeSQL<Record>(sql, std::span<const Parameter>(params.begin(), params.size()), fill);
     }
@@ -128,8 +131,15 @@ public:
         return createTableFor(Record::table());
     }
 
-    // A consistent copy of the open project at a path where no file is yet. The error text is empty on success.
+    // A consistent copy of the open project at a path where no file is yet. The error text is empty on
+    // success.
     QString backup(const QString& destination);
+    // Whether the file has the class's table with all its columns.
+    template <class Record>
+    bool hasTable() const
+    {
+        return hasTableFor(Record::table());
+    }
     // SQLite's own examination: its findings, none when the file is sound.
     QStringList integrityFindings();
     // Statements sent so far: what tests count.
@@ -140,12 +150,20 @@ public:
     virtual int insertRecord(const TableInfo& table, TableModel& record);
     virtual int updateRecord(const TableInfo& table, TableModel& record);
     virtual int removeRecord(const TableInfo& table, TableModel& record);
-    virtual bool readRecords(const TableInfo& table, std::string_view sql, std::span<const Parameter> params, Fill fill,
-                             bool absoluteFree, const std::function<void(std::shared_ptr<TableModel>)>& take);
+    virtual bool readRecords(const TableInfo& table, std::string_view sql, std::span<const Parameter> params,
+                             Fill fill, bool absoluteFree,
+                             const std::function<void(std::shared_ptr<TableModel>)>& take);
     virtual bool anyRecord(const TableInfo& table, std::string_view tail, std::span<const Parameter> params);
     virtual bool createTableFor(const TableInfo& table);
 
+protected:
+    // For a subclass that fails on purpose: from here on the open transaction is lost, or the one that BEGIN
+    // asked for was never had, just as when the disk refuses.
+    void loseTransaction();
+    void refuseTransaction();
+
 private:
+    bool hasTableFor(const TableInfo& table) const;
     struct Impl;
     std::unique_ptr<Impl> m_impl;
 };

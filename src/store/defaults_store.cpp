@@ -1,0 +1,148 @@
+#include "store/defaults_store.h"
+
+#include <QtCore/QSettings>
+#include <QtCore/QStandardPaths>
+
+namespace zelvor {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString businessesKey = u"businesses"_s;
+const QString nameKey = u"name"_s;
+const QString pathKey = u"path"_s;
+const QString defaultBusinessKey = u"defaultBusiness"_s;
+const QString showUpdateWindowKey = u"showUpdateWindow"_s;
+
+// Names and paths are values of numbered entries: as values they may hold any character, as keys they
+// may not.
+QMap<QString, QString> readBusinesses(QSettings& settings)
+{
+    QMap<QString, QString> result;
+    const int count = settings.beginReadArray(businessesKey);
+    for (int i = 0; i < count; ++i) {
+        settings.setArrayIndex(i);
+        result.insert(settings.value(nameKey).toString(), settings.value(pathKey).toString());
+    }
+    settings.endArray();
+    return result;
+}
+
+void writeBusinesses(QSettings& settings, const QMap<QString, QString>& businesses)
+{
+    settings.remove(businessesKey);
+    settings.beginWriteArray(businessesKey, static_cast<int>(businesses.size()));
+    int index = 0;
+    for (const auto& [name, path] : businesses.asKeyValueRange()) {
+        settings.setArrayIndex(index++);
+        settings.setValue(nameKey, name);
+        settings.setValue(pathKey, path);
+    }
+    settings.endArray();
+}
+
+} // namespace
+
+class DefaultsStore::Impl {
+public:
+    explicit Impl(QString path) : filePath(std::move(path)) {}
+
+    void load()
+    {
+        if (loaded)
+            return;
+        loaded = true;
+        QSettings settings(filePath, QSettings::IniFormat);
+        businesses = readBusinesses(settings);
+        if (settings.contains(defaultBusinessKey))
+            defaultBusiness = settings.value(defaultBusinessKey).toString();
+        showUpdateWindow = settings.value(showUpdateWindowKey, true).toBool();
+    }
+
+    const QString filePath;
+    bool loaded = false;
+    QMap<QString, QString> businesses;
+    std::optional<QString> defaultBusiness;
+    bool showUpdateWindow = true;
+    // Only what was set here is written: another program may have set the rest meanwhile.
+    bool businessesSet = false;
+    bool defaultBusinessSet = false;
+    bool showUpdateWindowSet = false;
+};
+
+DefaultsStore::DefaultsStore()
+    : DefaultsStore(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                    u"/Zelvor/Zelvor.conf"_s)
+{}
+
+DefaultsStore::DefaultsStore(QString filePath) : m_impl(std::make_unique<Impl>(std::move(filePath))) {}
+
+DefaultsStore::~DefaultsStore() = default;
+
+QMap<QString, QString> DefaultsStore::businesses() const
+{
+    m_impl->load();
+    return m_impl->businesses;
+}
+
+void DefaultsStore::setBusinesses(const QMap<QString, QString>& businesses)
+{
+    m_impl->load();
+    m_impl->businesses = businesses;
+    m_impl->businessesSet = true;
+}
+
+std::optional<QString> DefaultsStore::defaultBusiness() const
+{
+    m_impl->load();
+    return m_impl->defaultBusiness;
+}
+
+void DefaultsStore::setDefaultBusiness(const QString& key)
+{
+    m_impl->load();
+    m_impl->defaultBusiness = key;
+    m_impl->defaultBusinessSet = true;
+}
+
+void DefaultsStore::removeDefaultBusiness()
+{
+    m_impl->load();
+    m_impl->defaultBusiness.reset();
+    m_impl->defaultBusinessSet = true;
+}
+
+bool DefaultsStore::showUpdateWindow() const
+{
+    m_impl->load();
+    return m_impl->showUpdateWindow;
+}
+
+void DefaultsStore::setShowUpdateWindow(bool show)
+{
+    m_impl->load();
+    m_impl->showUpdateWindow = show;
+    m_impl->showUpdateWindowSet = true;
+}
+
+bool DefaultsStore::synchronize()
+{
+    m_impl->load();
+    QSettings settings(m_impl->filePath, QSettings::IniFormat);
+    if (m_impl->businessesSet)
+        writeBusinesses(settings, m_impl->businesses);
+    if (m_impl->defaultBusinessSet && m_impl->defaultBusiness)
+        settings.setValue(defaultBusinessKey, *m_impl->defaultBusiness);
+    else if (m_impl->defaultBusinessSet)
+        settings.remove(defaultBusinessKey);
+    if (m_impl->showUpdateWindowSet)
+        settings.setValue(showUpdateWindowKey, m_impl->showUpdateWindow);
+    settings.sync();
+    if (settings.status() != QSettings::NoError)
+        return false;
+    m_impl->businessesSet = m_impl->defaultBusinessSet = m_impl->showUpdateWindowSet = false;
+    return true;
+}
+
+} // namespace zelvor

@@ -1,0 +1,114 @@
+#include "store/statement_text.h"
+
+namespace zelvor {
+
+namespace {
+
+std::string columnList(const TableInfo& table)
+{
+    std::string list = "id";
+    for (const ColumnInfo& column : table.columns)
+        list.append(",").append(column.name);
+    return list;
+}
+
+std::string selectText(const TableInfo& table, std::string_view moreColumns, std::string_view tail)
+{
+    return "SELECT " + columnList(table).append(moreColumns) + " FROM " + table.name + " " +
+           std::string(tail);
+}
+
+std::string rowsText(const TableInfo& table, std::string_view headColumn, std::string_view condition,
+                     std::string_view order)
+{
+    const std::string column(headColumn);
+    return selectText(table, "," + column,
+                      "WHERE " + column + std::string(condition) + " ORDER BY " + std::string(order));
+}
+
+std::string insertText(const TableInfo& table)
+{
+    if (table.columns.empty())
+        return std::string("INSERT INTO ") + table.name + " DEFAULT VALUES";
+    std::string names;
+    std::string marks;
+    for (const ColumnInfo& column : table.columns) {
+        names.append(names.empty() ? "" : ",").append(column.name);
+        marks.append(marks.empty() ? "?" : ",?");
+    }
+    return std::string("INSERT INTO ") + table.name + "(" + names + ") VALUES(" + marks + ")";
+}
+
+std::string updateText(const TableInfo& table)
+{
+    std::string changes;
+    for (const ColumnInfo& column : table.columns)
+        changes.append(changes.empty() ? "" : ",").append(column.name).append("=?");
+    return std::string("UPDATE ") + table.name + " SET " + changes + " WHERE id=?";
+}
+
+const char* columnType(ColumnKind kind)
+{
+    switch (kind) {
+    case ColumnKind::Integer:
+    case ColumnKind::Boolean:
+        return "INTEGER";
+    case ColumnKind::Real:
+        return "REAL";
+    case ColumnKind::Text:
+        return "TEXT";
+    }
+    return "";
+}
+
+constexpr std::string_view ofRange = " BETWEEN ? AND ?";
+constexpr std::string_view ofList = " IN (SELECT value FROM json_each(?))";
+
+} // namespace
+
+std::string statementText(Operation operation, const TableInfo* table, std::string_view text)
+{
+    switch (operation) {
+    case Operation::SelectOne:
+        return selectText(*table, {}, "WHERE id=?");
+    case Operation::SelectRange:
+        return selectText(*table, {}, std::string("WHERE id").append(ofRange));
+    case Operation::SelectListed:
+        return selectText(*table, {}, std::string("WHERE id").append(ofList));
+    case Operation::RowsOfOne:
+        return rowsText(*table, text, "=?", "id");
+    case Operation::RowsOfRange:
+        return rowsText(*table, text, ofRange, std::string(text) + ",id");
+    case Operation::RowsListed:
+        return rowsText(*table, text, ofList, std::string(text) + ",id");
+    case Operation::Insert:
+        return insertText(*table);
+    case Operation::Update:
+        return updateText(*table);
+    case Operation::Remove:
+        return std::string("DELETE FROM ") + table->name + " WHERE id=?";
+    case Operation::SelectWhere:
+        return selectText(*table, {}, text);
+    case Operation::AnyWhere:
+        return std::string("SELECT 1 FROM ") + table->name + " " + std::string(text);
+    case Operation::Whole:
+    case Operation::Control:
+        return std::string(text);
+    }
+    return {};
+}
+
+std::string createTableText(const TableInfo& table)
+{
+    std::string columns = "id INTEGER PRIMARY KEY AUTOINCREMENT";
+    for (const ColumnInfo& column : table.columns)
+        columns.append(", ").append(column.name).append(" ").append(columnType(column.kind));
+    return std::string("CREATE TABLE ") + table.name + "(" + columns + ")";
+}
+
+std::string createIndexText(const IndexInfo& index)
+{
+    return std::string("CREATE INDEX ") + index.name + " ON " + index.target;
+}
+
+} // namespace zelvor
