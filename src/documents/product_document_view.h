@@ -1,0 +1,103 @@
+#pragma once
+
+#include "core/doc_type.h"
+#include "core/outlets.h"
+#include "core/view.h"
+
+#include <memory>
+#include <vector>
+
+namespace zelvor {
+
+class Params;
+class ProductDocument;
+class ProductDocumentViewController;
+class Stock;
+
+// The table of a product document's rows with the controls around it: chooses the warehouses, shows the
+// columns that the taxes ask for, and says what is still missing. Its ground warns while there are no rows.
+//
+// Columns: includeShipment, name, measurement, amount, packs, price, vatPercent, vat, totalNet, total.
+class ProductDocumentView : public TableView {
+public:
+    explicit ProductDocumentView(ProductDocumentViewController& controller);
+
+    // The settings as the form was opened; the empty settings in a file without any.
+    std::shared_ptr<Params> params;
+    std::vector<std::shared_ptr<Stock>> stocks; // not hidden, by name
+
+    DatePicker date{QStringLiteral("date")};
+    PopUpButton stockFromSelect{QStringLiteral("stockFromSelect")};
+    PopUpButton stockToSelect{QStringLiteral("stockToSelect")};
+    TextField contragentField{QStringLiteral("contragentField")}; // the name: chosen, never typed
+    TextField comment{QStringLiteral("comment")};
+
+    Label stockFromLabel{QStringLiteral("stockFromLabel")};
+    Label stockToLabel{QStringLiteral("stockToLabel")};
+    Label contragentLabel{QStringLiteral("contragentLabel")};
+    Label saldoLabel{QStringLiteral("saldoLabel")};
+    Label shipmentLabel{QStringLiteral("shipmentLabel")};
+    Label totalLabel{QStringLiteral("totalLabel")};
+    Label vatAmountLabel{QStringLiteral("vatAmountLabel")};
+    Label balanceDueLabel{QStringLiteral("balanceDueLabel")};
+
+    Button deleteSelectedRowsButton{QStringLiteral("deleteSelectedRowsButton")};
+    Button deleteDocButton{QStringLiteral("deleteDocButton")};
+    Button saveButton{QStringLiteral("saveButton")};
+    Button confirmButton{QStringLiteral("confirmButton")};
+
+    std::vector<ViewColumn> columns() const override;
+    int numberOfRows() const override;
+    QVariant value(int row, const QString& identifier) const override;
+    // A number may be given as a number or as a plain text: "12.50".
+    bool setValue(int row, const QString& identifier, const QVariant& value) override;
+    // A product dragged out of the tree beside the table.
+    bool acceptDrop(const QString& pasteboard);
+
+    // Reads the warehouses into both pop-ups; the document's own stay selected.
+    void prepareStocks();
+    // The default warehouse, where the type uses one.
+    void setDefaults();
+    // Takes over the warehouse with that id, 0 for none. False, and nothing chosen, when there is no such
+    // warehouse or it is hidden.
+    bool setStockFromID(qint64 stockID);
+    bool setStockToID(qint64 stockID);
+
+    // Shows the document's values and enables what its type uses, while it is unconfirmed.
+    void showDocument();
+    void showContragent();
+    // Title, number and colour as the document has them now.
+    void showTitle();
+    // Shows the tax columns and their label, headed by the tax that leads.
+    void showHideColumns();
+
+    // What the user did.
+    void checkControlls(const Outlet* sender = nullptr);
+    void taxesChecked();
+    void shipmentChanged();
+    void discountChanged();
+    // The labels of required inputs that are still missing, in form order.
+    QStringList missingInputs() const;
+
+private:
+    enum class Tax { None, VAT, GST };
+    struct Required {
+        Label* label;
+        bool filled;
+    };
+    Tax tax() const;
+    ProductDocument& document() const;
+    QString rowIdentifier(const QString& column) const;
+    std::vector<Required> required() const;
+    // Paints the labels, the ground and the confirm button; leaves the save button alone.
+    void paintRequired();
+    void writeLabels();
+    void bindFields();
+    void enableFields();
+    std::shared_ptr<Stock> stockWithID(qint64 stockID) const;
+    void fillStockSelect(PopUpButton& select, const std::shared_ptr<Stock>& held) const;
+
+    ProductDocumentViewController& m_controller;
+};
+
+} // namespace zelvor

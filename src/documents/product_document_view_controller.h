@@ -1,0 +1,122 @@
+#pragma once
+
+#include "core/notification_center.h"
+#include "documents/document_view_controller.h"
+#include "documents/product_document.h"
+#include "documents/product_document_view.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace zelvor {
+
+class ContragentSelectView;
+class ProductViewController;
+
+// The form of a product document: its rows, prices, discount, taxes and totals, saving it as a draft,
+// deleting the draft, confirming it. Actions answer whether they were carried out; a refused confirmation has
+// shown an alert and changed nothing, neither in the file nor in the document.
+//
+// Who fills the form without a screen: prepareData(), then the counterparty and the warehouses by their ids,
+// the discount, the rows, and last what a row differs in. The product tree and the counterparty chooser are
+// made when they are asked for.
+class ProductDocumentViewController final : public DocumentViewController {
+public:
+    // A new document has its type and nothing else.
+    ProductDocumentViewController(AppDelegate& owner, std::shared_ptr<ProductDocument> documentToShow);
+    ~ProductDocumentViewController() override;
+
+    const std::shared_ptr<ProductDocument> document;
+    NumberField deferment{QStringLiteral("deferment")};                   // days
+    NumberField contragentDiscount{QStringLiteral("contragentDiscount")}; // percent
+    Slider contragentDiscountSlider{QStringLiteral("contragentDiscountSlider")};
+    CheckBox vatCheck{QStringLiteral("vatCheck")}; // prices include VAT
+    CheckBox gstCheck{QStringLiteral("gstCheck")}; // GST comes on top of prices
+    NumberField shipment{QStringLiteral("shipment")};
+    NumberField totalAmount{QStringLiteral("totalAmount")};
+    NumberField totalPacks{QStringLiteral("totalPacks")};
+    NumberField totalSum{QStringLiteral("totalSum")};   // without tax and shipment
+    NumberField vatAmount{QStringLiteral("vatAmount")}; // of the tax that leads, VAT or GST
+    NumberField balanceDue{QStringLiteral("balanceDue")};
+    ProductDocumentView mainView;
+    Popover contragentSelectPopover{QStringLiteral("contragentSelectPopover")};
+    ContragentSelectView& contragentSelectView();
+    ProductViewController& mainProductView();
+    // Takes the tab away; set by whoever shows the form.
+    std::function<void()> onClose;
+
+    DocumentModel& documentModel() override { return *document; }
+    QStringList missingInputs() const override { return mainView.missingInputs(); }
+    void prepareData() override;
+
+    // What the document's type uses; a warehouse and a counterparty that it uses are also required.
+    bool stockFromEnabled() const;
+    bool stockToEnabled() const;
+    bool contragentEnabled() const;
+    bool shipmentEnabled() const;
+    bool discountEnabled() const;
+
+    void selectContragent(); // opens the chooser
+    void setNewContragent(const std::shared_ptr<Contragent>& contragent);
+    void clearContragent();
+    // The record with that id, 0 for none. False, and nothing chosen, when there is no such record or it is
+    // hidden.
+    bool setContragentFromID(qint64 contragentID);
+    bool setManagerFromID(qint64 managerID); // the responsible employee
+
+    // The row with the product, or none.
+    std::shared_ptr<ProductDocumentRow> hasRowWithProduct(const Product& product) const;
+    // A drop on the table: one more of a product that has a row, otherwise a new row at the type's price.
+    // The row's place, or -1 when the document takes no more rows or there is no such product.
+    int addProduct(const std::shared_ptr<Product>& product);
+    int addProductFromID(qint64 productID);
+    // "amount", "price", "includeShipment" (0 is off), and "vatRate", "gstRate" in percent. False, and
+    // nothing changed, for a number that cannot be kept.
+    bool setRowValue(int row, const QString& identifier, const Decimal& value);
+    // The selected row; one that is stored leaves the file at once.
+    bool deleteRow();
+    void calculateTotals();
+    // Prices every row anew by the form's discount, but for products without a price.
+    void checkDiscount();
+
+    bool writeDoc();
+    bool deleteDoc();
+    void closeDoc();
+    bool confirmDoc();
+    void changeInterface();
+
+    void updateContragents();
+    void updateStocks();
+
+private:
+    struct Confirmation; // the steps by type, and what is told afterwards
+    class Restore;       // the document as it was before a write that failed
+    bool isSell() const;
+    bool isEditable() const { return !document->confirmed; }
+    std::shared_ptr<ProductDocumentRow> newRow(const std::shared_ptr<Product>& product);
+    Decimal discounted(const Decimal& price) const;
+    bool checkNumbers();
+    void takeFields();
+    void rowsChanged();
+    void setDiscount(const Decimal& percent);
+    void observeCatalogs();
+
+    bool runSteps();
+    void readAnew();
+    bool checkDate();
+    bool checkStockAmount();
+    bool deleteProductsFromStock();
+    bool addProductsToStock();
+    bool changeBaseCosts();
+    bool checkProductDocs();
+    bool changeContragentBalance();
+    void finalizeDocument();
+    void postConfirmed();
+
+    std::vector<NotificationCenter::Observation> m_observations;
+    std::unique_ptr<ContragentSelectView> m_contragentSelectView;
+    std::unique_ptr<ProductViewController> m_mainProductView;
+};
+
+} // namespace zelvor
