@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <limits>
+#include <utility>
+
 using namespace zelvor;
 using namespace Qt::Literals::StringLiterals;
 
@@ -58,14 +62,15 @@ TEST(Outlet, settingAValueDoesNotRunTheControllersAction)
 TEST(Outlet, anActionMayReplaceItselfAndAListenerMayAddAnother)
 {
     Button button(u"lock"_s);
-    int pressed = 0;
-    button.onUserChange = [&] {
+    QString pressed;
+    // What the action captured must live until it returns.
+    button.onUserChange = [&, mark = u"once"_s, room = std::array<char, 64>()] {
         button.onUserChange = nullptr;
-        ++pressed;
+        pressed += mark + QString::number(room.size());
     };
     EXPECT_TRUE(button.userChanged());
     EXPECT_TRUE(button.userChanged());
-    EXPECT_EQ(pressed, 1);
+    EXPECT_EQ(pressed, u"once64"_s);
     int heard = 0;
     bool added = false;
     button.onChange([&] {
