@@ -296,8 +296,8 @@ bool Connector::execute(std::string_view text)
         return false;
     const Transaction::Commit result = transaction.commit();
     if (result == Transaction::Commit::Failed && onCommitFailed)
-        onCommitFailed(
-            localized("Writing to %1 failed; the last operation was taken back.").arg(m_impl->path));
+        onCommitFailed(localized("Writing to %1 failed (%2); the last operation was taken back.")
+                           .arg(m_impl->path, transaction.reason()));
     return result == Transaction::Commit::Durable || result == Transaction::Commit::Nothing;
 }
 
@@ -318,7 +318,8 @@ bool Connector::endBulk()
     if (transaction.endBulk())
         return true;
     if (wasBulk && onCommitFailed)
-        onCommitFailed(localized("Writing to %1 failed; the whole run was taken back.").arg(m_impl->path));
+        onCommitFailed(localized("Writing to %1 failed (%2); the whole run was taken back.")
+                           .arg(m_impl->path, transaction.reason()));
     return false;
 }
 

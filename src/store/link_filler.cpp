@@ -94,20 +94,22 @@ bool LinkFiller::fill(const TableInfo& table, std::span<const std::shared_ptr<Ta
     return true;
 }
 
-bool LinkFiller::fillStep(const std::vector<Batch>& batches, std::vector<Batch>& found)
+bool LinkFiller::fillStep(std::vector<Batch>& batches, std::vector<Batch>& found)
 {
     std::vector<Wanted> wanted;
     std::vector<Filling> fillings;
-    for (const Batch& batch : batches) {
-        if (m_fill == Fill::Everything && batch.table->rows) {
-            Batch rows{&batch.table->rows->table(), {}};
-            if (!readRows(batch, rows))
-                return false;
-            if (!rows.records.empty())
-                found.push_back(std::move(rows));
-        }
-        collect(batch, wanted, fillings);
+    // Rows first: what they link to is asked for together with what the heads link to.
+    for (std::size_t index = 0, heads = batches.size(); m_fill == Fill::Everything && index < heads;
+         ++index) {
+        if (!batches[index].table->rows)
+            continue;
+        Batch rows{&batches[index].table->rows->table(), {}};
+        if (!readRows(batches[index], rows))
+            return false;
+        batches.push_back(std::move(rows));
     }
+    for (const Batch& batch : batches)
+        collect(batch, wanted, fillings);
     for (const Wanted& request : wanted) {
         if (request.ids.empty())
             continue;

@@ -38,7 +38,7 @@ private:
         const std::shared_ptr<TableModel>* slot;
     };
 
-    bool fillStep(const std::vector<Batch>& batches, std::vector<Batch>& found);
+    bool fillStep(std::vector<Batch>& batches, std::vector<Batch>& found);
     bool readRows(const Batch& heads, Batch& rows);
     void collect(const Batch& batch, std::vector<Wanted>& wanted, std::vector<Filling>& fillings);
     bool readLinked(const Wanted& wanted, Batch& found);

@@ -41,6 +41,8 @@ Transaction::Commit Transaction::commit()
     checkAlive();
     const bool durable =
         m_state == State::Open && m_statements.control(m_bulk ? "RELEASE user_write" : "COMMIT");
+    if (!durable && m_state == State::Open)
+        noteReason();
     if (!durable)
         takeBack();
     m_state = State::None;
@@ -83,6 +85,7 @@ bool Transaction::endBulk()
     // Lost on the way, or refused now: nothing of the load is kept.
     if (isActive() && m_statements.control("COMMIT"))
         return true;
+    noteReason();
     if (isActive())
         m_statements.control("ROLLBACK");
     return false;
@@ -99,13 +102,20 @@ void Transaction::abandon()
 void Transaction::checkAlive()
 {
     if (m_state == State::Open && !isActive())
-        m_state = State::Lost;
+        spoil();
 }
 
 void Transaction::spoil()
 {
-    if (m_state == State::Open)
-        m_state = State::Lost;
+    if (m_state != State::Open)
+        return;
+    noteReason();
+    m_state = State::Lost;
+}
+
+void Transaction::noteReason()
+{
+    m_reason = QString::fromUtf8(sqlite3_errmsg(m_database));
 }
 
 void Transaction::refuse()

@@ -2,6 +2,8 @@
 
 #include "store/statement_cache.h"
 
+#include <QtCore/QString>
+
 namespace zelvor {
 
 // Where the connection stands between BEGIN and COMMIT. Knows what SQLite does by itself: a transaction
@@ -33,16 +35,20 @@ public:
     void spoil();
     // As if BEGIN had failed.
     void refuse();
+    // SQLite's words for what made the last transaction fail.
+    const QString& reason() const { return m_reason; }
 
 private:
     enum class State { None, Open, NeverBegun, Lost };
     // Takes back what was written since BEGIN.
     void takeBack();
+    void noteReason();
 
     StatementCache& m_statements;
     sqlite3* m_database = nullptr;
     State m_state = State::None;
     bool m_bulk = false;
+    QString m_reason;
 };
 
 } // namespace zelvor
