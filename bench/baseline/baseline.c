@@ -26,6 +26,7 @@ enum {
     INSERT_ROW,
     BEGIN,
     COMMIT,
+    ROLLBACK,
     STATEMENTS
 };
 
@@ -56,6 +57,7 @@ static const char* const statement_texts[STATEMENTS] = {
         " VALUES(?,?,?,?,?,?,?,?,0,0,0)",
     [BEGIN] = "BEGIN IMMEDIATE",
     [COMMIT] = "COMMIT",
+    [ROLLBACK] = "ROLLBACK",
 };
 
 struct baseline {
@@ -620,6 +622,20 @@ void baseline_begin(baseline* db)
 void baseline_commit(baseline* db)
 {
     finish(db, kept(db, COMMIT));
+}
+
+void baseline_rollback(baseline* db)
+{
+    finish(db, kept(db, ROLLBACK));
+}
+
+void baseline_insert(baseline* db, long long moment, unsigned seed)
+{
+    unsigned state = seed * 2654435761u + 1;
+    fill_row rows[BASELINE_ROWS_PER_DOCUMENT];
+    double sum = fill_rows(rows, &state);
+    insert_document(db, SELL_PRODUCT, moment, 0, 1, 1, 1, sum, 0, 0, "");
+    insert_rows(db, sqlite3_last_insert_rowid(db->file), rows);
 }
 
 static void check_date(baseline* db, long long moment)

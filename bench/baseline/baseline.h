@@ -61,6 +61,9 @@ size_t baseline_heads(baseline* db);
 void baseline_begin(baseline* db);
 void baseline_sale(baseline* db, long long moment, unsigned seed);
 void baseline_commit(baseline* db);
+void baseline_rollback(baseline* db);
+/* A sale's head with its four rows and nothing else: 5 writes. */
+void baseline_insert(baseline* db, long long moment, unsigned seed);
 
 #ifdef __cplusplus
 }
