@@ -1,0 +1,129 @@
+#include "reports/period_sell_report_row.h"
+
+#include "core/text_order.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace zelvor {
+
+namespace {
+
+using Rows = std::vector<PeriodSellReportRow*>;
+
+constexpr int indentStep = 3;
+
+bool nameLess(const PeriodSellReportRow* a, const PeriodSellReportRow* b)
+{
+    return textLess(a->name, b->name);
+}
+
+// What is no number sorts before all numbers.
+bool numberLess(double a, double b)
+{
+    return std::isnan(a) ? !std::isnan(b) : a < b;
+}
+
+template <class Less>
+void sortInDirection(Rows& rows, bool ascending, const Less& less)
+{
+    if (ascending)
+        std::ranges::stable_sort(rows, less);
+    else
+        std::ranges::stable_sort(rows, [&less](const auto* a, const auto* b) { return less(b, a); });
+}
+
+using Number = double (*)(const PeriodSellReportRow&);
+
+Number numberOfKey(const QString& key)
+{
+    if (key == u"amount")
+        return [](const PeriodSellReportRow& row) { return row.amount(); };
+    if (key == u"base")
+        return [](const PeriodSellReportRow& row) { return row.baseSum(); };
+    if (key == u"price")
+        return [](const PeriodSellReportRow& row) { return row.priceSum(); };
+    if (key == u"profit")
+        return [](const PeriodSellReportRow& row) { return row.profit(); };
+    if (key == u"percent")
+        return [](const PeriodSellReportRow& row) { return row.percent(); };
+    return nullptr;
+}
+
+} // namespace
+
+Decimal PeriodSellReportRow::innerPacks() const
+{
+    return innerPackAmount.isZero() ? Decimal() : innerAmount.dividedBy(innerPackAmount, decimalHandler);
+}
+
+double PeriodSellReportRow::percent() const
+{
+    if (innerBaseSum.isZero())
+        return 1;
+    return innerProfit().dividedBy(innerBaseSum, percentDecimalHandler).toDouble();
+}
+
+void PeriodSellReportRow::setChild(PeriodSellReportRow& child)
+{
+    m_children.push_back(&child);
+    m_childrenInOrder = m_children.size() == 1; // sorted once, when somebody looks
+    child.parent = this;
+    child.parentID = id;
+    child.indent = indent + indentStep;
+}
+
+const std::vector<PeriodSellReportRow*>& PeriodSellReportRow::children() const
+{
+    if (!m_childrenInOrder)
+        std::ranges::stable_sort(m_children, nameLess);
+    m_childrenInOrder = true;
+    return m_children;
+}
+
+void PeriodSellReportRow::appendDataToParent(const PeriodSellReportRow& row)
+{
+    for (PeriodSellReportRow* above = parent; above && above->addData(row); above = above->parent) {
+    }
+}
+
+void PeriodSellReportRow::sortByField(const QString& key, bool ascending)
+{
+    children();
+    sortRows(m_children, key, ascending);
+    for (PeriodSellReportRow* child : m_children)
+        child->sortByField(key, ascending);
+}
+
+QVariant PeriodSellReportRow::valueForIdentifier(QStringView identifier) const
+{
+    if (identifier == u"name")
+        return indentStr() + name;
+    if (identifier == u"unit")
+        return unit;
+    if (identifier == u"amount")
+        return amount();
+    if (identifier == u"packs")
+        return innerPacks().isZero() ? QVariant(QString()) : QVariant(packs());
+    if (identifier == u"baseSum")
+        return baseSum();
+    if (identifier == u"priceSum")
+        return priceSum();
+    if (identifier == u"profit")
+        return profit();
+    if (identifier == u"percent")
+        return percent();
+    return QString();
+}
+
+void sortRows(Rows& rows, const QString& key, bool ascending)
+{
+    if (key == u"name")
+        sortInDirection(rows, ascending, nameLess);
+    else if (const Number number = numberOfKey(key))
+        sortInDirection(rows, ascending, [number](const auto* a, const auto* b) {
+            return numberLess(number(*a), number(*b));
+        });
+}
+
+} // namespace zelvor

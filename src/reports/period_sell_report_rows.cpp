@@ -1,0 +1,335 @@
+#include "reports/period_sell_report_rows.h"
+
+#include "core/doc_type.h"
+#include "core/localized.h"
+#include "reports/sold_sums.h"
+#include "reports/total_row_for_period_sell.h"
+
+#include <algorithm>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+
+namespace zelvor {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr qint64 contragentOffset = 10'000;
+constexpr qint64 managerOffset = 100'000;
+constexpr qint64 noManagerRowID = 1'000'000;
+
+// A filter of ids; without ids everything passes.
+class IDFilter {
+public:
+    explicit IDFilter(std::vector<qint64> ids) : m_ids(std::move(ids)) { std::ranges::sort(m_ids); }
+    bool passes(qint64 id) const { return m_ids.empty() || std::ranges::binary_search(m_ids, id); }
+
+private:
+    std::vector<qint64> m_ids;
+};
+
+// The columns of a catalog record that the report needs.
+struct CatalogEntry {
+    qint64 id = 0;
+    QString name;
+    qint64 parentID = 0;
+    qint64 parentContragentID = 0;
+    qint64 managerID = 0;
+};
+
+std::vector<CatalogEntry> readEntries(Connector& connector, std::string_view sql, const IDFilter& filter)
+{
+    std::vector<CatalogEntry> entries;
+    if (!connector.scan(sql, {}, [&](const Statement& row) {
+            const qint64 id = row.integer(0);
+            if (filter.passes(id))
+                entries.push_back({id, row.text(1), row.integer(2), row.integer(3), row.integer(4)});
+        }))
+        entries.clear();
+    return entries;
+}
+
+std::vector<CatalogEntry> readContragents(Connector& connector, const IDFilter& filter)
+{
+    return readEntries(
+        connector, "SELECT id, name, parent_id, parent_contragent_id, manager_id FROM contragent ORDER BY id",
+        filter);
+}
+
+// The products' own columns, read once for a report.
+class ProductFacts {
+public:
+    explicit ProductFacts(Connector& connector)
+    {
+        std::unordered_map<qint64, QString> units;
+        connector.scan("SELECT id, shorthand FROM measurement", {},
+                       [&](const Statement& row) { units.emplace(row.integer(0), row.text(1)); });
+        connector.scan("SELECT id, name, measurement_id, group_id, pack_amount FROM product ORDER BY id", {},
+                       [&](const Statement& row) {
+                           const auto unit = units.find(row.integer(2));
+                           m_facts.push_back({row.integer(0), row.text(1),
+                                              unit != units.end() ? unit->second : QString(), row.integer(3),
+                                              Decimal::fromDouble(row.real(4), moneyHandler)});
+                       });
+    }
+
+    std::unique_ptr<PeriodSellReportRow> makeRow(const SoldProduct& sold) const
+    {
+        auto row = std::make_unique<PeriodSellReportRow>();
+        row->id = sold.productID;
+        row->rowType = u"product"_s;
+        row->innerAmount = sold.amount;
+        row->innerBaseSum = sold.baseSum;
+        row->innerPriceSum = sold.priceSum;
+        const auto fact = std::ranges::lower_bound(m_facts, sold.productID, {}, &Fact::id);
+        if (fact == m_facts.end() || fact->id != sold.productID) {
+            row->innerPackAmount = Decimal::nan(); // the column of a record that is not there
+            return row;
+        }
+        row->name = fact->name;
+        row->unit = fact->unit;
+        row->parentID = fact->groupID;
+        row->innerPackAmount = fact->packAmount;
+        return row;
+    }
+
+private:
+    struct Fact {
+        qint64 id;
+        QString name;
+        QString unit;
+        qint64 groupID;
+        Decimal packAmount;
+    };
+    std::vector<Fact> m_facts;
+};
+
+// Walks the rows of the confirmed sales of the period that the product filter lets through. The documents
+// come by their date and the rows by their document (hence the CROSS JOIN, which keeps that order): only the
+// period's own rows are touched. False when the read failed.
+bool scanSales(Connector& connector, const PeriodSellReportQuery& query,
+               const std::function<void(qint64 contragentID, const SoldRow&)>& take)
+{
+    const IDFilter products(query.productIDs);
+    return connector.scan(
+        "SELECT d.contragent_id, r.product_id, r.amount, r.base_cost_sum, r.price_cost_sum"
+        " FROM product_doc AS d CROSS JOIN product_doc_row AS r ON r.doc_id=d.id"
+        " WHERE d.date>? AND d.date<? AND (d.doc_type_id=? OR d.doc_type_id=?) AND d.is_confirmed=1",
+        {query.dateFrom, query.dateTo, DocType::SellIntangibles, DocType::SellProduct},
+        [&](const Statement& row) {
+            const qint64 productID = row.integer(1);
+            if (products.passes(productID))
+                take(row.integer(0), {productID, {row.real(2), row.real(3), row.real(4)}});
+        });
+}
+
+// The sales of a period, kept apart by a holder: a counterparty, or an employee with all of theirs.
+class SalesByHolder {
+public:
+    explicit SalesByHolder(std::size_t holders) : m_rows(holders) {}
+
+    // The contragent's sales belong to that holder.
+    void assign(qint64 contragentID, std::size_t holder) { m_holders.emplace(contragentID, holder); }
+    void keepAll() { m_keepsAll = true; }
+    void read(Connector& connector, const PeriodSellReportQuery& query)
+    {
+        const bool read = scanSales(connector, query, [this](qint64 contragentID, const SoldRow& row) {
+            if (m_keepsAll)
+                m_all.add(row);
+            if (const auto holder = m_holders.find(contragentID); holder != m_holders.end())
+                m_rows[holder->second].push_back(row);
+        });
+        if (!read) { // no half of a report
+            m_all.clear();
+            m_rows.assign(m_rows.size(), {});
+        }
+    }
+    std::vector<SoldProduct> ofHolder(std::size_t holder)
+    {
+        if (m_rows[holder].empty())
+            return {};
+        m_scratch.clear();
+        for (const SoldRow& row : m_rows[holder])
+            m_scratch.add(row);
+        return m_scratch.products();
+    }
+    std::vector<SoldProduct> all() const { return m_all.products(); }
+
+private:
+    std::unordered_map<qint64, std::size_t> m_holders;
+    std::vector<std::vector<SoldRow>> m_rows;
+    SoldSums m_scratch;
+    SoldSums m_all;
+    bool m_keepsAll = false;
+};
+
+void appendGathering(PeriodSellReportRows& rows, qint64 id, const CatalogEntry& entry, const QString& rowType,
+                     qint64 parentID)
+{
+    auto row = std::make_unique<TotalRowForPeriodSell>();
+    row->id = id;
+    row->name = entry.name;
+    row->rowType = rowType;
+    row->parentID = parentID;
+    row->parentContragentID = entry.parentContragentID;
+    rows.push_back(std::move(row));
+}
+
+void appendGroups(PeriodSellReportRows& rows, const std::vector<CatalogEntry>& groups, const QString& rowType)
+{
+    for (const CatalogEntry& group : groups)
+        appendGathering(rows, group.id, group, rowType, group.parentID);
+}
+
+void appendProducts(PeriodSellReportRows& rows, const ProductFacts& facts,
+                    const std::vector<SoldProduct>& sold, qint64 parentID)
+{
+    for (const SoldProduct& product : sold) {
+        rows.push_back(facts.makeRow(product));
+        rows.back()->parentID = parentID;
+    }
+}
+
+std::vector<CatalogEntry> readManagers(Connector& connector, const PeriodSellReportQuery& query)
+{
+    std::vector<CatalogEntry> managers = readEntries(
+        connector, "SELECT id, name, 0, 0, 0 FROM manager ORDER BY id", IDFilter(query.selectedManagers));
+    // Whatever the filter holds: the counterparties without an employee.
+    managers.push_back({0, localized("No manager")});
+    return managers;
+}
+
+qint64 managerRowID(const CatalogEntry& manager)
+{
+    return manager.id == 0 ? noManagerRowID : manager.id + managerOffset;
+}
+
+// Kept as it has always been read: below "No manager" the id of the holding counterparty comes without the
+// offset of the counterparties' rows.
+qint64 contragentParentID(const CatalogEntry& contragent, const CatalogEntry& manager)
+{
+    if (contragent.parentContragentID == 0)
+        return managerRowID(manager);
+    return contragent.parentContragentID + (manager.id == 0 ? 0 : contragentOffset);
+}
+
+// The places of each employee's counterparties in their list, 0 for those without one.
+std::unordered_map<qint64, std::vector<std::size_t>>
+placesByManager(const std::vector<CatalogEntry>& contragents)
+{
+    std::unordered_map<qint64, std::vector<std::size_t>> places;
+    for (std::size_t place = 0; place < contragents.size(); ++place)
+        places[contragents[place].managerID].push_back(place);
+    return places;
+}
+
+SalesByHolder readByContragent(Connector& connector, const PeriodSellReportQuery& query,
+                               const std::vector<CatalogEntry>& contragents)
+{
+    SalesByHolder sales(contragents.size());
+    for (std::size_t place = 0; place < contragents.size(); ++place)
+        sales.assign(contragents[place].id, place);
+    sales.read(connector, query);
+    return sales;
+}
+
+PeriodSellReportRows readByManagerAndContragent(Connector& connector, const PeriodSellReportQuery& query)
+{
+    PeriodSellReportRows rows;
+    const std::vector<CatalogEntry> contragents = readContragents(connector, IDFilter({}));
+    const auto places = placesByManager(contragents);
+    SalesByHolder sales = readByContragent(connector, query, contragents);
+    const ProductFacts facts(connector);
+    for (const CatalogEntry& manager : readManagers(connector, query)) {
+        appendGathering(rows, managerRowID(manager), manager, u"manager"_s, 0);
+        const auto own = places.find(manager.id);
+        if (own == places.end())
+            continue;
+        for (const std::size_t place : own->second) {
+            const CatalogEntry& contragent = contragents[place];
+            const qint64 rowID = contragent.id + contragentOffset;
+            appendGathering(rows, rowID, contragent, u"contragent"_s,
+                            contragentParentID(contragent, manager));
+            appendProducts(rows, facts, sales.ofHolder(place), rowID);
+        }
+    }
+    return rows;
+}
+
+PeriodSellReportRows readByManagerAlone(Connector& connector, const PeriodSellReportQuery& query)
+{
+    PeriodSellReportRows rows;
+    const std::vector<CatalogEntry> contragents = readContragents(connector, IDFilter({}));
+    const auto places = placesByManager(contragents);
+    const std::vector<CatalogEntry> managers = readManagers(connector, query);
+    SalesByHolder sales(managers.size());
+    for (std::size_t holder = 0; holder < managers.size(); ++holder) {
+        const auto own = places.find(managers[holder].id);
+        if (own == places.end()) {
+            sales.keepAll();
+            continue;
+        }
+        for (const std::size_t place : own->second)
+            sales.assign(contragents[place].id, holder);
+    }
+    sales.read(connector, query);
+    const ProductFacts facts(connector);
+    for (std::size_t holder = 0; holder < managers.size(); ++holder) {
+        const qint64 rowID = managerRowID(managers[holder]);
+        appendGathering(rows, rowID, managers[holder], u"manager"_s, 0);
+        // Kept: nobody's counterparties are no condition at all, so such an employee shows every sale.
+        const bool hasContragents = places.contains(managers[holder].id);
+        appendProducts(rows, facts, hasContragents ? sales.ofHolder(holder) : sales.all(), rowID);
+    }
+    return rows;
+}
+
+} // namespace
+
+PeriodSellReportRows readSalesByProductGroup(Connector& connector, const PeriodSellReportQuery& query)
+{
+    PeriodSellReportRows rows;
+    appendGroups(rows,
+                 readEntries(connector, "SELECT id, name, parent_id, 0, 0 FROM product_group ORDER BY id",
+                             IDFilter(query.productTypeIDs)),
+                 u"productGroup"_s);
+    SoldSums sums;
+    if (!scanSales(connector, query, [&sums](qint64, const SoldRow& row) { sums.add(row); }))
+        sums.clear();
+    const ProductFacts facts(connector);
+    for (const SoldProduct& sold : sums.products())
+        rows.push_back(facts.makeRow(sold));
+    return rows;
+}
+
+PeriodSellReportRows readSalesByContragent(Connector& connector, const PeriodSellReportQuery& query)
+{
+    PeriodSellReportRows rows;
+    appendGroups(rows,
+                 readEntries(connector, "SELECT id, name, parent_id, 0, 0 FROM contragent_group ORDER BY id",
+                             IDFilter(query.contragentTypeIDs)),
+                 u"contragent"_s);
+    const std::vector<CatalogEntry> contragents = readContragents(connector, IDFilter(query.contragentIDs));
+    SalesByHolder sales = readByContragent(connector, query, contragents);
+    const ProductFacts facts(connector);
+    for (std::size_t place = 0; place < contragents.size(); ++place) {
+        const CatalogEntry& contragent = contragents[place];
+        const qint64 rowID = contragent.id + contragentOffset;
+        const qint64 holderID = contragent.parentContragentID;
+        appendGathering(rows, rowID, contragent, u"contragent"_s,
+                        holderID != 0 ? holderID + contragentOffset : contragent.parentID);
+        appendProducts(rows, facts, sales.ofHolder(place), rowID);
+    }
+    return rows;
+}
+
+PeriodSellReportRows readSalesByManager(Connector& connector, const PeriodSellReportQuery& query,
+                                        bool withContragents)
+{
+    return withContragents ? readByManagerAndContragent(connector, query)
+                           : readByManagerAlone(connector, query);
+}
+
+} // namespace zelvor

@@ -1,0 +1,93 @@
+#include "reports/sold_sums.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace zelvor {
+
+namespace {
+
+constexpr qint64 denseIDs = 1 << 16;
+// Ninety million rows of this size still fit their sum.
+constexpr double mostCents = 1e11;
+
+// The whole cents of a value that has nothing behind them.
+bool wholeCents(double value, qint64& cents)
+{
+    const double scaled = value * 100;
+    if (!(std::abs(scaled) < mostCents))
+        return false;
+    cents = static_cast<qint64>(scaled + (scaled < 0 ? -0.5 : 0.5));
+    return static_cast<double>(cents) / 100 == value;
+}
+
+Decimal sumOf(qint64 cents, const Decimal& rest)
+{
+    const Decimal whole = Decimal::fromParts(cents, moneyHandler.scale);
+    return rest.isZero() ? whole : whole.plus(rest, moneyHandler);
+}
+
+} // namespace
+
+void SoldSums::add(const SoldRow& row)
+{
+    Cell& cell = cellOf(row.productID);
+    cell.sold = true;
+    for (std::size_t column = 0; column < row.values.size(); ++column) {
+        qint64 cents = 0;
+        if (wholeCents(row.values[column], cents))
+            cell.cents[column] += cents;
+        else if (!std::isnan(row.values[column])) // a stored nothing adds nothing
+            addRest(row.productID, column, row.values[column]);
+    }
+}
+
+void SoldSums::addRest(qint64 productID, std::size_t column, double value)
+{
+    Decimal& rest = m_rest[productID][column];
+    rest = rest.plus(Decimal::fromDouble(value));
+}
+
+void SoldSums::clear()
+{
+    std::ranges::fill(m_dense, Cell());
+    m_sparse.clear();
+    m_rest.clear();
+}
+
+SoldSums::Cell& SoldSums::cellOf(qint64 productID)
+{
+    if (productID < 0 || productID >= denseIDs)
+        return m_sparse[productID];
+    const auto index = static_cast<std::size_t>(productID);
+    if (index >= m_dense.size())
+        m_dense.resize(index + 1);
+    return m_dense[index];
+}
+
+SoldProduct SoldSums::productOf(qint64 productID, const Cell& cell) const
+{
+    const auto place = m_rest.find(productID);
+    const std::array<Decimal, 3> rest = place != m_rest.end() ? place->second : std::array<Decimal, 3>();
+    return {productID, sumOf(cell.cents[0], rest[0]), sumOf(cell.cents[1], rest[1]),
+            sumOf(cell.cents[2], rest[2])};
+}
+
+std::vector<SoldProduct> SoldSums::products() const
+{
+    std::vector<SoldProduct> products;
+    const auto firstAbove = m_sparse.lower_bound(0);
+    const auto appendSparse = [&](auto from, auto to) {
+        for (; from != to; ++from)
+            products.push_back(productOf(from->first, from->second));
+    };
+    appendSparse(m_sparse.begin(), firstAbove);
+    for (std::size_t index = 0; index < m_dense.size(); ++index) {
+        if (m_dense[index].sold)
+            products.push_back(productOf(static_cast<qint64>(index), m_dense[index]));
+    }
+    appendSparse(firstAbove, m_sparse.end());
+    return products;
+}
+
+} // namespace zelvor
