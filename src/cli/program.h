@@ -1,0 +1,51 @@
+#pragma once
+
+#include "core/calendar.h"
+#include "core/dialogs.h"
+#include "store/app_delegate.h"
+
+#include <QtCore/QString>
+
+namespace zelvor {
+
+// Nobody is there to answer: alerts are kept for the caller, questions are answered with the last button
+// ("Cancel"), panels are cancelled.
+class UnattendedDialogs final : public Dialogs {
+public:
+    void showAlert(const Alert& alert) override { m_text += alert.informativeText; }
+    void ask(const Alert& alert, std::function<void(int)> answer) override;
+    std::optional<QString> savePath(const SavePanel&) override { return std::nullopt; }
+    std::optional<QString> openPath(const OpenPanel&) override { return std::nullopt; }
+    // The informative texts shown since the last call.
+    QString takeText();
+
+private:
+    QString m_text;
+};
+
+// The engine as one command uses it: the machine's clock (or a replayed one) and zone, nobody to ask.
+class Program {
+public:
+    Program();
+
+    // The moment of everything that follows is `clock`'s from here on. It must outlive the program.
+    void replayBy(const Clock& clock) { m_clock.source = &clock; }
+    // Opens a project for the command; on failure one line went to standard error.
+    bool open(const QString& path, Access access);
+
+private:
+    struct SwitchingClock final : Clock {
+        SystemClock system;
+        const Clock* source = &system;
+        qint64 now() const override { return source->now(); }
+    };
+
+    SwitchingClock m_clock;
+    DefaultsStore m_defaults;
+
+public:
+    UnattendedDialogs dialogs;
+    AppDelegate appDelegate;
+};
+
+} // namespace zelvor
