@@ -27,10 +27,10 @@ const TableInfo& ContragentGroup::table()
     return info;
 }
 
-void Contragent::setChild(const Node& child)
+void Contragent::appendChild(const Node& child)
 {
     const qint64 groupID = child->parentID;
-    ContragentModel::setChild(child);
+    ContragentModel::appendChild(child);
     child->parentID = groupID;
     if (const auto contragent = std::dynamic_pointer_cast<Contragent>(child))
         contragent->parentContragentID = id;

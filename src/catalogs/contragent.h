@@ -61,7 +61,7 @@ public:
     bool isGroup() const override { return false; }
     QString className() const override { return QStringLiteral("Contragent"); }
     // The held child is a counterparty, and its parentContragentID is the link.
-    void setChild(const Node& child) override;
+    void appendChild(const Node& child) override;
     void removeChildAtIndex(std::size_t index) override;
     std::vector<qint64> getChildrenIDs() const override;
     QVariant valueForIdentifier(QStringView key) const override;

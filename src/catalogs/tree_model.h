@@ -26,8 +26,11 @@ public:
     // The name of the run-time class: with the id it identifies a node across groups and leaves.
     virtual QString className() const = 0;
 
-    // Takes the child in, sorted by name, and sets its parent link.
-    virtual void setChild(const Node& child);
+    // Takes the child in and sorts the children by name; a child of an unsorted list moves too.
+    void setChild(const Node& child);
+    // Takes the child in behind the others and sets its links: for whoever sorts once at the end.
+    virtual void appendChild(const Node& child);
+    void sortChildrenByName();
     // Takes the child out, if it is there.
     void removeChild(const Node& child);
     virtual void removeChildAtIndex(std::size_t index);

@@ -10,12 +10,23 @@ namespace zelvor {
 template <class Family, class Base>
 void TreeModel<Family, Base>::setChild(const Node& child)
 {
+    appendChild(child);
+    sortChildrenByName();
+}
+
+template <class Family, class Base>
+void TreeModel<Family, Base>::appendChild(const Node& child)
+{
+    children.push_back(child);
     child->parent = this->weak_from_this();
     child->parentID = this->id;
-    const auto place =
-        std::upper_bound(children.begin(), children.end(), child,
-                         [](const Node& a, const Node& b) { return textLess(a->name, b->name); });
-    children.insert(place, child);
+}
+
+template <class Family, class Base>
+void TreeModel<Family, Base>::sortChildrenByName()
+{
+    if (children.size() > 1)
+        std::ranges::stable_sort(children, NameLess{});
 }
 
 template <class Family, class Base>
