@@ -22,6 +22,7 @@ public:
     std::vector<ViewColumn> columns() const override;
     int numberOfRows() const override;
     QVariant value(int row, const QString& identifier) const override;
+    CellStyle cellStyle(int row, const QString& identifier) const override;
     // By "number", "date", "sum" or "contragent".
     void sort(const QString& key, bool ascending) override;
     void doubleAction(int row) override;

@@ -59,7 +59,11 @@ public:
 private:
     template <class Record>
     void readKind(const std::vector<DocType>& types);
-    bool deleteFromFile(const DocumentModel& document);
+    void readSelected();
+    void bindOutlets();
+    void datesChanged();
+    bool removeProductDocument(qint64 id);
+    bool removeMoneyDocument(qint64 id);
 
     std::vector<NotificationCenter::Observation> m_observations;
     bool m_prepared = false;

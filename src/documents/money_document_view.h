@@ -7,7 +7,6 @@
 
 namespace zelvor {
 
-class Account;
 class MoneyDocument;
 class MoneyDocumentViewController;
 
@@ -70,8 +69,8 @@ public:
 
     // Shows the document's values and enables what its type uses, while it is unconfirmed.
     void showDocument();
-    // The balances of the document's accounts and employee as they stand in memory.
-    void showBalances();
+    // The names of the counterparty and the spending, the balances of the accounts and the employee.
+    void showParties();
 
     // The rate between the two accounts' currencies, and the received sum by it.
     void calculateExchange();
@@ -86,7 +85,7 @@ public:
 
 private:
     struct Required {
-        Label* label;
+        Label MoneyDocumentView::*label;
         bool filled;
     };
     std::vector<Required> required() const;
@@ -96,8 +95,7 @@ private:
     void accountFromSumEdited();
     void accountToSumEdited();
     bool takeAccount(PopUpButton& select, qint64 accountID);
-    std::shared_ptr<Account> accountWithID(qint64 accountID) const;
-    bool receivedSumIsAcceptable() const;
+    void setReceivedSum(const Decimal& sum);
     MoneyDocument& document() const;
 
     MoneyDocumentViewController& m_controller;

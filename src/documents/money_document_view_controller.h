@@ -5,6 +5,7 @@
 #include "documents/money_document.h"
 #include "documents/money_document_view.h"
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -45,19 +46,23 @@ public:
     void clearContragent();
     void setNewExpend(const std::shared_ptr<Expend>& expend);
     void clearExpend();
-    // The record with that id, 0 for none. False, and nothing chosen, when there is no such record.
+    // The record with that id, 0 for none. False, and nothing chosen, when there is no such record or it is
+    // hidden.
     bool setContragentFromID(qint64 contragentID);
     bool setExpendFromID(qint64 expendID);
     bool setManagerFromID(qint64 managerID); // the responsible employee
 
     bool writeDoc();
     bool deleteDoc();
+    void closeDoc();
+    // Takes the tab away; set by whoever shows the form.
+    std::function<void()> onClose;
     bool confirmDoc();
     void updateInterface();
 
 private:
     struct Confirmation; // the steps by type, and what is told afterwards
-    bool runConfirmation(UserWrite& write);
+    bool runSteps();
     bool checkDate();
     bool checkAccountBalance();
     bool minusMoneyFromAccount();
@@ -67,8 +72,10 @@ private:
     bool checkProductDocs();
     void postConfirmed();
 
-    bool isStillDraft();
-    void takeReceivedSum();
+    bool mayWrite();
+    void showRefusal();
+    void showParties();
+    bool storeConfirmed(UserWrite& write);
     void observeCatalogs();
 
     std::vector<NotificationCenter::Observation> m_observations;

@@ -7,6 +7,7 @@
 
 namespace zelvor {
 
+class PropertyDocument;
 class PropertyDocumentViewController;
 
 // The fields of a fixed-asset document's form that are not on its controller, and what is still missing.
@@ -32,6 +33,8 @@ public:
 
     // Shows the document's values and enables what its type uses, while it is unconfirmed.
     void showDocument();
+    // The names of the counterparty and the asset, and the chosen reason.
+    void showParties();
     // Paints the labels of the required fields and enables the button.
     void checkControlls();
     // The labels of required fields that are still missing, in form order.
@@ -39,12 +42,16 @@ public:
 
 private:
     struct Required {
-        Label* label;
+        Label PropertyDocumentView::*label;
         bool filled;
     };
     std::vector<Required> required() const;
     bool sumIsAcceptable() const;
+    bool hasProperty() const;
+    void writeLabels();
     void bindFields();
+    void enableFields();
+    PropertyDocument& document() const;
 
     PropertyDocumentViewController& m_controller;
 };

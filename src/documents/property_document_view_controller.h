@@ -1,10 +1,12 @@
 #pragma once
 
+#include "catalogs/property_select_view.h"
 #include "core/notification_center.h"
 #include "documents/document_view_controller.h"
 #include "documents/property_document.h"
 #include "documents/property_document_view.h"
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -15,6 +17,9 @@ class UserWrite;
 // The form of a fixed-asset document. There is no draft: the document, and an asset that comes with it, are
 // stored by the confirmation alone. A refused confirmation has shown an alert and changed nothing, neither in
 // the file nor in the document.
+//
+// Who fills the form without a screen: prepareData(), then the counterparty and the asset by their ids, then
+// the fields; choosing a counterparty fills the deferment, choosing an asset to sell fills the sum.
 class PropertyDocumentViewController final : public DocumentViewController {
 public:
     // A new document has its type and nothing else.
@@ -46,35 +51,44 @@ public:
     void setNewContragent(const std::shared_ptr<Contragent>& contragent);
     void clearContragent();
     // The assets that are held, read when the popover opens.
-    std::vector<std::shared_ptr<Property>> properties;
+    PropertySelectView propertySelectView;
     void prepareProperties();
-    void selectProperty();
+    void selectProperty(); // opens the popover
     void addProperty(const std::shared_ptr<Property>& property);
     void clearProperty();
     void cancelPopover();
     // Fills the pop-up of reasons; until then it holds only the selected one.
     void prepareDeleteBasises();
-    // The record with that id, 0 for none. False, and nothing chosen, when there is no such record, or the
-    // asset is gone.
+    // The record with that id, 0 for none. False, and nothing chosen, when there is no such record, it is
+    // hidden, or the asset is gone.
     bool setContragentFromID(qint64 contragentID);
     bool setPropertyFromID(qint64 propertyID);
     bool setDeleteBasisFromID(qint64 basisID);
     bool setManagerFromID(qint64 managerID); // the responsible employee
 
     bool confirmDoc();
+    void closeDoc();
+    // Takes the tab away; set by whoever shows the form.
+    std::function<void()> onClose;
     void updateInterface();
 
 private:
     struct Confirmation; // the steps by type, and what is told afterwards
-    bool runConfirmation(UserWrite& write);
-    bool readPropertyAnew();
+    bool readAnew();
+    bool runSteps();
     bool checkDate();
     bool checkProductDocs();
     bool changeContragentBalance();
+    void setLeftToPay(const Decimal& balance);
     void finalizeDocument();
     bool storeProperty(UserWrite& write);
     bool storeDocument(UserWrite& write);
     void postConfirmed();
+
+    void bindFields();
+    void observeCatalogs();
+    void updateProperties();
+    void showParties();
 
     std::vector<NotificationCenter::Observation> m_observations;
     bool m_propertiesStale = true;
