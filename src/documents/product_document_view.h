@@ -51,10 +51,8 @@ public:
     QVariant value(int row, const QString& identifier) const override;
     // A number may be given as a number or as a plain text: "12.50".
     bool setValue(int row, const QString& identifier, const QVariant& value) override;
-    // A product dragged out of the tree beside the table.
-    bool acceptDrop(const QString& pasteboard);
 
-    // Reads the warehouses into both pop-ups; the document's own stay selected.
+    // Reads the warehouses into the pop-ups of the type; the document's own stay selected.
     void prepareStocks();
     // The default warehouse, where the type uses one.
     void setDefaults();
@@ -68,6 +66,9 @@ public:
     void showContragent();
     // Title, number and colour as the document has them now.
     void showTitle();
+    // Paints the labels of the required inputs, the ground and the confirm button.
+    void paintRequired();
+    void enableFields();
     // Shows the tax columns and their label, headed by the tax that leads.
     void showHideColumns();
 
@@ -82,20 +83,19 @@ public:
 private:
     enum class Tax { None, VAT, GST };
     struct Required {
-        Label* label;
+        const Label* label;
         bool filled;
     };
     Tax tax() const;
     ProductDocument& document() const;
     QString rowIdentifier(const QString& column) const;
     std::vector<Required> required() const;
-    // Paints the labels, the ground and the confirm button; leaves the save button alone.
-    void paintRequired();
     void writeLabels();
     void bindFields();
-    void enableFields();
     std::shared_ptr<Stock> stockWithID(qint64 stockID) const;
-    void fillStockSelect(PopUpButton& select, const std::shared_ptr<Stock>& held) const;
+    void fillStockSelect(PopUpButton& select, qint64 heldID, const QString& heldName) const;
+    bool takeStockFrom(qint64 stockID);
+    bool takeStockTo(qint64 stockID);
 
     ProductDocumentViewController& m_controller;
 };

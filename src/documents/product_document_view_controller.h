@@ -11,9 +11,6 @@
 
 namespace zelvor {
 
-class ContragentSelectView;
-class ProductViewController;
-
 // The form of a product document: its rows, prices, discount, taxes and totals, saving it as a draft,
 // deleting the draft, confirming it. Actions answer whether they were carried out; a refused confirmation has
 // shown an alert and changed nothing, neither in the file nor in the document.
@@ -40,9 +37,6 @@ public:
     NumberField vatAmount{QStringLiteral("vatAmount")}; // of the tax that leads, VAT or GST
     NumberField balanceDue{QStringLiteral("balanceDue")};
     ProductDocumentView mainView;
-    Popover contragentSelectPopover{QStringLiteral("contragentSelectPopover")};
-    ContragentSelectView& contragentSelectView();
-    ProductViewController& mainProductView();
     // Takes the tab away; set by whoever shows the form.
     std::function<void()> onClose;
 
@@ -57,7 +51,6 @@ public:
     bool shipmentEnabled() const;
     bool discountEnabled() const;
 
-    void selectContragent(); // opens the chooser
     void setNewContragent(const std::shared_ptr<Contragent>& contragent);
     void clearContragent();
     // The record with that id, 0 for none. False, and nothing chosen, when there is no such record or it is
@@ -91,12 +84,12 @@ public:
 
 private:
     struct Confirmation; // the steps by type, and what is told afterwards
-    class Restore;       // the document as it was before a write that failed
     bool isSell() const;
     bool isEditable() const { return !document->confirmed; }
     std::shared_ptr<ProductDocumentRow> newRow(const std::shared_ptr<Product>& product);
     Decimal discounted(const Decimal& price) const;
-    bool checkNumbers();
+    bool hasStorableNumbers(); // shows an alert when not
+    bool checkStoredRows();
     void takeFields();
     void rowsChanged();
     void setDiscount(const Decimal& percent);
@@ -115,8 +108,6 @@ private:
     void postConfirmed();
 
     std::vector<NotificationCenter::Observation> m_observations;
-    std::unique_ptr<ContragentSelectView> m_contragentSelectView;
-    std::unique_ptr<ProductViewController> m_mainProductView;
 };
 
 } // namespace zelvor
