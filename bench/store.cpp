@@ -79,7 +79,7 @@ ProductDocument documentToInsert(int seed)
     for (int i = 0; i < BASELINE_ROWS_PER_DOCUMENT; ++i) {
         auto row = std::make_shared<ProductDocumentRow>();
         row->productID = 1 + (seed * 31 + i * 7) % BASELINE_PRODUCTS;
-        row->setPriceCost(1.25 * row->productID);
+        row->setPriceCost(1.25 * static_cast<double>(row->productID));
         row->setAmount(1 + i);
         document.documentRows.push_back(row);
     }

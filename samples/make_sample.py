@@ -570,7 +570,7 @@ class Larkmoor:
         self.spend(day(15), "Fuel", self.random.randint(60, 130), variable=True, account=TILL)
         self.spend(day(18), "Advertising", self.random.choice([120, 250, 400]), variable=True)
         self.spend(day(21), "Office supplies", self.random.randint(25, 80), variable=True, account=TILL)
-        self.spend(day(27), "Salaries", 9950, comment="Five employees")
+        self.spend(day(27), "Salaries", 4650, comment="Five people by the hour")
         if number:
             self.pay_supplier(day(10), self.bank, money(600), comment="Repayment", loans=True)
             self.spend(day(9), "Online shop platform", Decimal("79.00"), account=BANK_USD)
