@@ -59,6 +59,7 @@ public:
     }
 
     bool isGroup() const override { return false; }
+    qint64 leafHolderID() const override { return parentContragentID; }
     QString className() const override { return QStringLiteral("Contragent"); }
     // The held child is a counterparty, and its parentContragentID is the link.
     void appendChild(const Node& child) override;

@@ -4,6 +4,8 @@
 #include "catalogs/flat_catalog_controller.h"
 #include "catalogs/manager_view_controller.h"
 
+#include <unordered_map>
+
 namespace zelvor {
 
 ContragentViewController::ContragentViewController(AppDelegate& owner) : TreeCatalogController(owner)
@@ -46,11 +48,6 @@ void ContragentViewController::refresh()
     TreeCatalogController::refresh();
     if (m_managersStale)
         renewManagers();
-}
-
-qint64 ContragentViewController::leafHolderID(const ContragentModel& node) const
-{
-    return node.isGroup() ? 0 : static_cast<const Contragent&>(node).parentContragentID;
 }
 
 void ContragentViewController::treeBuilt()

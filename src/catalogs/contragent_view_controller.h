@@ -106,7 +106,6 @@ protected:
     void prepareLinked() override { prepareManagers(); }
     void treeBuilt() override;
     void leafEdited(Contragent& contragent) override;
-    qint64 leafHolderID(const ContragentModel& node) const override;
     void disableMenus(const Node& node) override;
 
 private:

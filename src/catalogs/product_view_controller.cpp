@@ -4,6 +4,8 @@
 #include "catalogs/flat_catalog_controller.h"
 #include "catalogs/measurement_view_controller.h"
 
+#include <unordered_map>
+
 namespace zelvor {
 
 ProductViewController::ProductViewController(AppDelegate& owner) : TreeCatalogController(owner)

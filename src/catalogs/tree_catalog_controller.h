@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalogs/catalog_write.h"
+#include "catalogs/tree_builder.h"
 #include "catalogs/tree_catalog_view.h"
 #include "core/localized.h"
 #include "core/outlets.h"
@@ -9,7 +10,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 #include <vector>
@@ -104,8 +104,6 @@ protected:
     virtual void treeBuilt() = 0;
     // A leaf was edited: what hangs on it is renewed; the tree keeps its order.
     virtual void leafEdited(Leaf& /*leaf*/) {}
-    // The id of the leaf that holds this node, where leaves hold leaves.
-    virtual qint64 leafHolderID(const Model& /*node*/) const { return 0; }
     // Keeps the record's own place and those below it out of the choosers of its parent.
     virtual void disableMenus(const Node& /*node*/) {}
     virtual void enableAllMenuItems()
@@ -163,11 +161,6 @@ protected:
     static void disableItems(PopUpButton& select, qint64 id, const std::vector<qint64>& below);
 
 private:
-    struct Placed {
-        Nodes topLevel;
-        Nodes orphans;
-    };
-
     static QString refusalOfName(const QString& name)
     {
         return name.isEmpty() ? localized("Field 'Name' is required!") : QString();
@@ -176,8 +169,6 @@ private:
     bool writeStored(const Node& record);
     void written(const Node& record, bool isNew);
     void staleUnlessShown(const Node& record);
-    Placed placeNodes();
-    void cutCircles(const Placed& placed);
     Node loadedNode(const QString& identifier) const;
     // The node of the tree that stands for a record of an older one.
     Node sameNode(const Node& old) const { return loadedNode(old->getIdentifierForDragging()); }
@@ -206,87 +197,15 @@ void TreeCatalogController<Model, Group, Leaf>::prepare()
         m_all.push_back(std::move(leaf));
     prepareLinked();
 
-    Placed placed = placeNodes();
-    cutCircles(placed);
-    for (const Node& node : m_all)
-        node->sortChildrenByName();
-    std::ranges::stable_sort(placed.topLevel, NameLess{});
+    Nodes topLevel = buildTree(m_all);
     std::ranges::stable_sort(groups, NameLess{});
-    tree().setTree(std::move(placed.topLevel), std::move(groups));
+    tree().setTree(std::move(topLevel), std::move(groups));
     tree().selectItem(selected ? sameNode(selected) : nullptr);
     expandItems(tree().loadedTopLevel());
     treeBuilt();
     if (const Node shown = focusedObject && focusedObject->id != 0 ? sameNode(focusedObject) : nullptr)
         disableMenus(shown);
     tree().reloadData();
-}
-
-// Each node goes under its parent in the order of the tables, whether or not the parent has a place yet. The
-// children are sorted when all are there, which gives the same order as sorting at each one.
-template <class Model, class Group, class Leaf>
-typename TreeCatalogController<Model, Group, Leaf>::Placed
-TreeCatalogController<Model, Group, Leaf>::placeNodes()
-{
-    std::unordered_map<qint64, Model*> groups;
-    std::unordered_map<qint64, Model*> leaves;
-    bool leavesHold = false;
-    for (const Node& node : m_all) {
-        if (node->isGroup())
-            groups.emplace(node->id, node.get());
-        leavesHold = leavesHold || leafHolderID(*node) != 0;
-    }
-    if (leavesHold) {
-        for (const Node& node : m_all) {
-            if (!node->isGroup())
-                leaves.emplace(node->id, node.get());
-        }
-    }
-    Placed placed;
-    for (const Node& node : m_all) {
-        const bool underGroup = node->parentID != 0;
-        const qint64 holderID = underGroup ? node->parentID : leafHolderID(*node);
-        if (holderID == 0) {
-            placed.topLevel.push_back(node);
-            continue;
-        }
-        const auto& holders = underGroup ? groups : leaves;
-        const auto holder = holders.find(holderID);
-        if (holder == holders.end())
-            placed.orphans.push_back(node);
-        else
-            holder->second->appendChild(node);
-    }
-    return placed;
-}
-
-// A file can hold nodes that are each other's parents. They are in no list of the tree; taken apart here so
-// that they do not own each other for ever.
-template <class Model, class Group, class Leaf>
-void TreeCatalogController<Model, Group, Leaf>::cutCircles(const Placed& placed)
-{
-    Nodes open = placed.topLevel;
-    open.insert(open.end(), placed.orphans.begin(), placed.orphans.end());
-    std::size_t reached = open.size();
-    std::unordered_set<const Model*> seen;
-    std::vector<const Model*> walk;
-    for (const Node& node : open)
-        walk.push_back(node.get());
-    while (!walk.empty()) {
-        const Model* const node = walk.back();
-        walk.pop_back();
-        seen.insert(node);
-        for (const Node& child : node->children)
-            walk.push_back(child.get());
-        reached += node->children.size();
-    }
-    if (reached == m_all.size())
-        return;
-    for (const Node& node : m_all) {
-        if (seen.contains(node.get()))
-            continue;
-        node->children.clear();
-        node->parent.reset();
-    }
 }
 
 template <class Model, class Group, class Leaf>

@@ -1,15 +1,13 @@
 #pragma once
 
-#include "core/colors.h"
+#include "catalogs/tree_outline.h"
 #include "core/text_order.h"
-#include "core/view.h"
 
 #include <QtCore/QtGlobal>
 
 #include <algorithm>
 #include <functional>
 #include <memory>
-#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -32,44 +30,36 @@ public:
 // The list of one tree catalog: groups and leaves as one outline, sorted, dragged and ticked in place. Every
 // question about the nodes reads the tree anew first when it is stale.
 template <class Model>
-class TreeCatalogView : public OutlineView {
+class TreeCatalogView : public TreeOutline<Model> {
 public:
-    using RecordNode = std::shared_ptr<Model>;
-    using Nodes = std::vector<RecordNode>;
+    using typename TreeOutline<Model>::Node;
+    using typename TreeOutline<Model>::Nodes;
+    using typename TreeOutline<Model>::RecordNode;
 
     TreeCatalogView(TreeCatalogOwner<Model>& owner, const QString& viewName, std::vector<ViewColumn> columns)
-        : OutlineView(viewName, catalogTitleColor), m_owner(owner), m_columns(std::move(columns))
+        : TreeOutline<Model>(viewName, std::move(columns)), m_owner(owner)
     {}
 
-    // The nodes of the top level.
-    const Nodes& topLevel() const
-    {
-        m_owner.refresh();
-        return m_topLevel;
-    }
     // All groups, by name: what the choosers of parent groups offer.
     const Nodes& groups() const
     {
-        m_owner.refresh();
+        refresh();
         return m_groups;
     }
     // As they were last read, stale or not.
-    const Nodes& loadedTopLevel() const { return m_topLevel; }
     const Nodes& loadedGroups() const { return m_groups; }
     // For the controller: a new tree. No row of it stands open.
-    void setTree(Nodes topLevelNodes, Nodes groupNodes);
+    void setTree(Nodes topLevelNodes, Nodes groupNodes)
+    {
+        this->setTopLevel(std::move(topLevelNodes));
+        m_groups = std::move(groupNodes);
+    }
     // For the controller: leaves that do not belong into the list at the moment go out of it.
     void removeLeaves(const std::function<bool(const Model&)>& unwanted)
     {
         removeLeaves(m_topLevel, unwanted);
     }
 
-    std::vector<ViewColumn> columns() const override { return m_columns; }
-    void setColumnHidden(const QString& identifier, bool hidden);
-    int numberOfChildren(const Node& node) const override;
-    Node child(const Node& node, int index) const override;
-    Node parent(const Node& node) const override;
-    bool isGroupItem(const Node& node) const override;
     // A group leaves the cells blank that only a leaf has.
     QVariant value(const Node& node, const QString& identifier) const override;
     // A check box of the row, stored at once; put back when that failed.
@@ -81,15 +71,15 @@ public:
     QString pasteboardText(const Node& node) const override;
     bool validateDrop(const QString& pasteboard, const Node& target) const override;
     bool acceptDrop(const QString& pasteboard, const Node& target) override;
-    bool isItemExpanded(const Node& node) const override { return m_expanded.contains(node.get()); }
-    void setItemExpanded(const Node& node, bool expanded) override;
 
 protected:
     // The field behind a check box of that row and column; null where the row has none.
     virtual bool* checkBox(Model& node, const QString& identifier) const = 0;
     virtual bool groupShows(const QString& identifier) const = 0;
 
-    static RecordNode record(const Node& node) { return std::dynamic_pointer_cast<Model>(node); }
+    using TreeOutline<Model>::record;
+    using TreeOutline<Model>::m_topLevel;
+    void refresh() const override { m_owner.refresh(); }
     template <class Less>
     static void sortNodes(Nodes& nodes, const Less& less, bool ascending)
     {
@@ -107,7 +97,7 @@ protected:
     }
     Nodes& sortableTopLevel()
     {
-        m_owner.refresh();
+        refresh();
         return m_topLevel;
     }
 
@@ -116,19 +106,8 @@ private:
     void takeOut(const RecordNode& node);
 
     TreeCatalogOwner<Model>& m_owner;
-    std::vector<ViewColumn> m_columns;
-    Nodes m_topLevel;
     Nodes m_groups;
-    std::unordered_set<const TableModel*> m_expanded;
 };
-
-template <class Model>
-void TreeCatalogView<Model>::setTree(Nodes topLevelNodes, Nodes groupNodes)
-{
-    m_expanded.clear();
-    m_topLevel = std::move(topLevelNodes);
-    m_groups = std::move(groupNodes);
-}
 
 // The link to the group stays on what goes out: it is still that of the file, should the record be stored.
 template <class Model>
@@ -144,51 +123,6 @@ void TreeCatalogView<Model>::removeLeaves(Nodes& nodes, const std::function<bool
         node->parent.reset();
         return true;
     });
-}
-
-template <class Model>
-void TreeCatalogView<Model>::setColumnHidden(const QString& identifier, bool hidden)
-{
-    for (ViewColumn& column : m_columns) {
-        if (column.identifier == identifier)
-            column.hidden = hidden;
-    }
-    reloadData();
-}
-
-template <class Model>
-int TreeCatalogView<Model>::numberOfChildren(const Node& node) const
-{
-    if (!node)
-        return static_cast<int>(topLevel().size());
-    const RecordNode holder = record(node);
-    return holder ? static_cast<int>(holder->children.size()) : 0;
-}
-
-template <class Model>
-OutlineView::Node TreeCatalogView<Model>::child(const Node& node, int index) const
-{
-    const RecordNode holder = record(node);
-    if (node && !holder)
-        return nullptr;
-    const Nodes& nodes = holder ? holder->children : topLevel();
-    if (index < 0 || static_cast<std::size_t>(index) >= nodes.size())
-        return nullptr;
-    return nodes[static_cast<std::size_t>(index)];
-}
-
-template <class Model>
-OutlineView::Node TreeCatalogView<Model>::parent(const Node& node) const
-{
-    const RecordNode shown = record(node);
-    return shown ? shown->parent.lock() : nullptr;
-}
-
-template <class Model>
-bool TreeCatalogView<Model>::isGroupItem(const Node& node) const
-{
-    const RecordNode shown = record(node);
-    return shown && (shown->isGroup() || !shown->children.empty());
 }
 
 template <class Model>
@@ -212,7 +146,7 @@ bool TreeCatalogView<Model>::setValue(const Node& node, const QString& identifie
     const bool stored = m_owner.update(shown);
     if (!stored)
         *flag = !ticked;
-    reloadData();
+    this->reloadData();
     return stored;
 }
 
@@ -224,13 +158,13 @@ void TreeCatalogView<Model>::sort(const QString& key, bool ascending)
         sortNodes(nodes, NameLess{}, ascending);
         sortChildren(nodes, ascending);
     }
-    reloadData();
+    this->reloadData();
 }
 
 template <class Model>
 void TreeCatalogView<Model>::doubleAction(const Node& node)
 {
-    selectItem(node);
+    this->selectItem(node);
     m_owner.editSelected();
 }
 
@@ -277,17 +211,8 @@ bool TreeCatalogView<Model>::acceptDrop(const QString& pasteboard, const Node& t
         m_topLevel.push_back(dragged);
     if (!m_owner.update(dragged))
         qWarning("Can't update data");
-    reloadData();
+    this->reloadData();
     return true;
-}
-
-template <class Model>
-void TreeCatalogView<Model>::setItemExpanded(const Node& node, bool expanded)
-{
-    if (expanded)
-        m_expanded.insert(node.get());
-    else
-        m_expanded.erase(node.get());
 }
 
 } // namespace zelvor

@@ -23,6 +23,8 @@ public:
 
     virtual bool isGroup() const = 0;
     virtual bool canHoldChildren() const { return isGroup(); }
+    // The id of the leaf that holds this node, where leaves hold leaves; 0: none.
+    virtual qint64 leafHolderID() const { return 0; }
     // The name of the run-time class: with the id it identifies a node across groups and leaves.
     virtual QString className() const = 0;
 
