@@ -1,5 +1,7 @@
 #include "store/statement_text.h"
 
+#include <cctype>
+
 namespace zelvor {
 
 namespace {
@@ -61,6 +63,43 @@ const char* columnType(ColumnKind kind)
     return "";
 }
 
+// SQLite takes a thousand alternatives at most; a caller's choice of records may be longer.
+constexpr std::size_t longText = 4000;
+
+std::size_t wordEnd(std::string_view text, std::size_t from)
+{
+    while (from < text.size() && (std::isalnum(static_cast<unsigned char>(text[from])) || text[from] == '_'))
+        ++from;
+    return from;
+}
+
+// "id=? OR id=? OR id=?" written as "id IN (?,?,?)"; the marks keep their order.
+std::string withFoldedAlternatives(std::string_view text)
+{
+    std::string folded;
+    std::size_t place = 0;
+    while (place < text.size()) {
+        const std::size_t end = wordEnd(text, place);
+        const std::string name(text.substr(place, end - place));
+        const std::string alternative = " OR " + name + "=?";
+        if (name.empty() || !text.substr(end).starts_with("=?" + alternative)) {
+            folded.append(text.substr(place, name.empty() ? 1 : name.size()));
+            place += name.empty() ? 1 : name.size();
+            continue;
+        }
+        folded.append(name).append(" IN (?");
+        for (place = end + 2; text.substr(place).starts_with(alternative); place += alternative.size())
+            folded.append(",?");
+        folded.append(")");
+    }
+    return folded;
+}
+
+std::string callersText(std::string_view text)
+{
+    return text.size() > longText ? withFoldedAlternatives(text) : std::string(text);
+}
+
 constexpr std::string_view ofRange = " BETWEEN ? AND ?";
 constexpr std::string_view ofList = " IN (SELECT value FROM json_each(?))";
 
@@ -88,10 +127,11 @@ std::string statementText(Operation operation, const TableInfo* table, std::stri
     case Operation::Remove:
         return std::string("DELETE FROM ") + table->name + " WHERE id=?";
     case Operation::SelectWhere:
-        return selectText(*table, {}, text);
+        return selectText(*table, {}, callersText(text));
     case Operation::AnyWhere:
-        return std::string("SELECT 1 FROM ") + table->name + " " + std::string(text);
+        return std::string("SELECT 1 FROM ") + table->name + " " + callersText(text);
     case Operation::Whole:
+        return callersText(text);
     case Operation::Control:
         return std::string(text);
     }

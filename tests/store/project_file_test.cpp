@@ -321,6 +321,17 @@ TEST_F(ProjectFiles, aProjectInUseSaysByWhomAndSinceWhen)
     EXPECT_EQ(other.freeSQL<Unit>().size(), 1U);
 }
 
+TEST_F(ProjectFiles, aLockThatCannotBeReadIsNamed)
+{
+    connector.close();
+    write(path() + u".lock"_s, {});
+    EXPECT_FALSE(connector.open(path()));
+    EXPECT_TRUE(connector.isLockedByOther());
+    EXPECT_TRUE(connector.openError().contains(path() + u".lock"_s));
+    QFile::remove(path() + u".lock"_s);
+    EXPECT_TRUE(connector.open(path()));
+}
+
 TEST_F(ProjectFiles, aDeadProgramsLockIsTakenOverWithoutAWord)
 {
     connector.close();

@@ -97,6 +97,28 @@ TEST_F(Records, aTailBuiltPieceByPieceFindsItsRows)
     EXPECT_FALSE(connector.any<Unit>("WHERE id>?", {5}));
 }
 
+TEST_F(Records, aTailMayNameThousandsOfRecords)
+{
+    ASSERT_TRUE(connector.beginBulk());
+    std::string tail = "WHERE name<>? AND ( id=?";
+    std::vector<Parameter> params{u"no"_s, 1};
+    for (int i = 1; i <= 3000; ++i) {
+        Unit unit;
+        connector.insert(unit);
+        if (i % 2 == 0) {
+            tail += " OR id=?";
+            params.emplace_back(i);
+        }
+    }
+    ASSERT_TRUE(connector.endBulk());
+    tail += ") AND (id>? OR name=?) ORDER BY id DESC";
+    params.emplace_back(2990);
+    params.emplace_back(u"no"_s);
+    const auto found = connector.freeSQL<Unit>(tail, std::span<const Parameter>(params));
+    ASSERT_EQ(found.size(), 5U);
+    EXPECT_EQ(found[0]->id, 3000);
+}
+
 TEST_F(Records, updateAndRemoveAnswerWhetherTheRowWasThere)
 {
     Unit unit;
