@@ -86,18 +86,18 @@ bool ProductDocumentViewController::confirmDoc()
     } else {
         write.fail();
     }
-    const bool stepsHeld = !write.failed();
+    const bool refused = write.failed();
     const bool confirmed = write.finish([this] {
         changeInterface();
         postConfirmed();
     });
     if (!confirmed) {
-        if (stepsHeld)
-            fail("The document could not be written to the disk. Nothing was changed.\n");
         before.putBack(*document);
         announceTakenBack();
         changeInterface();
-        showAlert();
+        // Of a commit that failed the application has told already.
+        if (refused)
+            showAlert();
     }
     alertMessage.clear();
     return confirmed;

@@ -1,5 +1,6 @@
 #include "documents/product_document_view.h"
 
+#include "catalogs/product_view_controller.h"
 #include "core/currency_struct.h"
 #include "core/localized.h"
 #include "core/text_order.h"
@@ -128,6 +129,12 @@ bool ProductDocumentView::setValue(int row, const QString& identifier, const QVa
     return m_controller.setRowValue(row, identifier, number);
 }
 
+bool ProductDocumentView::acceptDrop(const QString& pasteboard)
+{
+    const auto dropped = m_controller.mainProductView().getItemWithIdentifier(pasteboard);
+    return m_controller.addProduct(std::dynamic_pointer_cast<Product>(dropped)) >= 0;
+}
+
 void ProductDocumentView::prepareStocks()
 {
     stocks = m_controller.appDelegate.connector.freeSQL<Stock>("WHERE is_hidden=?", {false}, Fill::Nothing);
@@ -178,6 +185,7 @@ bool ProductDocumentView::takeStockFrom(qint64 stockID)
 {
     document().insertStockFrom(stockWithID(stockID));
     stockFromSelect.selectTag(document().stockFromID);
+    m_controller.stockFromChanged();
     return document().stockFromID == stockID;
 }
 

@@ -51,6 +51,8 @@ public:
     QVariant value(int row, const QString& identifier) const override;
     // A number may be given as a number or as a plain text: "12.50".
     bool setValue(int row, const QString& identifier, const QVariant& value) override;
+    // A row dragged out of the product tree beside the table; only a product is taken, a group is not.
+    bool acceptDrop(const QString& pasteboard);
 
     // Reads the warehouses into the pop-ups of the type; the document's own stay selected.
     void prepareStocks();

@@ -1,5 +1,8 @@
 #include "documents/product_document_view_controller.h"
 
+#include "catalogs/contragent_select_view.h"
+#include "catalogs/measurement_view_controller.h"
+#include "catalogs/product_view_controller.h"
 #include "core/localized.h"
 #include "documents/product_document_restore.h"
 #include "store/user_write.h"
@@ -130,6 +133,50 @@ void ProductDocumentViewController::observeCatalogs()
     observe(NotificationName::ContragentChangedNotification,
             &ProductDocumentViewController::updateContragents);
     observe(NotificationName::StockChangedNotification, &ProductDocumentViewController::updateStocks);
+}
+
+ContragentSelectView& ProductDocumentViewController::contragentSelectView()
+{
+    if (!m_contragentSelectView) {
+        m_contragentSelectView = std::make_unique<ContragentSelectView>(appDelegate);
+        m_contragentSelectView->sender = this;
+    }
+    return *m_contragentSelectView;
+}
+
+ProductViewController& ProductDocumentViewController::mainProductView()
+{
+    if (!m_mainProductView) {
+        m_measurementController = std::make_unique<MeasurementViewController>(appDelegate);
+        m_mainProductView = std::make_unique<ProductViewController>(appDelegate);
+        m_mainProductView->measurementController = m_measurementController.get();
+        initialColumnHide();
+        stockFromChanged();
+    }
+    return *m_mainProductView;
+}
+
+void ProductDocumentViewController::initialColumnHide()
+{
+    const DocType type = document->docType();
+    const bool stockHidden = type == DocType::BuyProduct || type == DocType::AddProduct;
+    ProductView& products = m_mainProductView->view;
+    for (const QString& column : {u"amount"_s, u"reserve"_s})
+        products.setColumnHidden(column, stockHidden);
+    for (const QString& column : {u"selected"_s, u"hidden"_s, u"description"_s})
+        products.setColumnHidden(column, true);
+}
+
+void ProductDocumentViewController::stockFromChanged()
+{
+    if (m_mainProductView)
+        m_mainProductView->setDocument(document->docType(), document->stockFromID, document->stockFromName());
+}
+
+void ProductDocumentViewController::selectContragent()
+{
+    if (isEditable() && contragentEnabled())
+        contragentSelectView().selectPopover.open();
 }
 
 void ProductDocumentViewController::setNewContragent(const std::shared_ptr<Contragent>& contragent)
@@ -448,6 +495,8 @@ void ProductDocumentViewController::changeInterface()
 
 void ProductDocumentViewController::updateContragents()
 {
+    if (m_contragentSelectView)
+        m_contragentSelectView->markStale();
     if (!isEditable() || document->contragentID == 0)
         return;
     const auto contragent = appDelegate.connector.select<Contragent>(document->contragentID, Fill::Nothing);

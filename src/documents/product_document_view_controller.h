@@ -1,5 +1,6 @@
 #pragma once
 
+#include "catalogs/selection_owner.h"
 #include "core/notification_center.h"
 #include "documents/document_view_controller.h"
 #include "documents/product_document.h"
@@ -11,6 +12,10 @@
 
 namespace zelvor {
 
+class ContragentSelectView;
+class MeasurementViewController;
+class ProductViewController;
+
 // The form of a product document: its rows, prices, discount, taxes and totals, saving it as a draft,
 // deleting the draft, confirming it. Actions answer whether they were carried out; a refused confirmation has
 // shown an alert and changed nothing, neither in the file nor in the document.
@@ -18,7 +23,7 @@ namespace zelvor {
 // Who fills the form without a screen: prepareData(), then the counterparty and the warehouses by their ids,
 // the discount, the rows, and last what a row differs in. The product tree and the counterparty chooser are
 // made when they are asked for.
-class ProductDocumentViewController final : public DocumentViewController {
+class ProductDocumentViewController final : public DocumentViewController, public ContragentSelectProtocol {
 public:
     // A new document has its type and nothing else.
     ProductDocumentViewController(AppDelegate& owner, std::shared_ptr<ProductDocument> documentToShow);
@@ -37,6 +42,10 @@ public:
     NumberField vatAmount{QStringLiteral("vatAmount")}; // of the tax that leads, VAT or GST
     NumberField balanceDue{QStringLiteral("balanceDue")};
     ProductDocumentView mainView;
+    // The counterparty chooser, and the product tree beside the table with its units; each is made when it
+    // is asked for.
+    ContragentSelectView& contragentSelectView();
+    ProductViewController& mainProductView();
     // Takes the tab away; set by whoever shows the form.
     std::function<void()> onClose;
 
@@ -51,7 +60,8 @@ public:
     bool shipmentEnabled() const;
     bool discountEnabled() const;
 
-    void setNewContragent(const std::shared_ptr<Contragent>& contragent);
+    void selectContragent(); // opens the chooser
+    void setNewContragent(const std::shared_ptr<Contragent>& contragent) override;
     void clearContragent();
     // The record with that id, 0 for none. False, and nothing chosen, when there is no such record or it is
     // hidden.
@@ -79,6 +89,8 @@ public:
     bool confirmDoc();
     void changeInterface();
 
+    // The warehouse that goods leave was chosen: the product tree shows what it holds.
+    void stockFromChanged();
     void updateContragents();
     void updateStocks();
 
@@ -94,6 +106,7 @@ private:
     void rowsChanged();
     void setDiscount(const Decimal& percent);
     void observeCatalogs();
+    void initialColumnHide();
 
     bool runSteps();
     void readAnew();
@@ -108,6 +121,9 @@ private:
     void postConfirmed();
 
     std::vector<NotificationCenter::Observation> m_observations;
+    std::unique_ptr<ContragentSelectView> m_contragentSelectView;
+    std::unique_ptr<MeasurementViewController> m_measurementController;
+    std::unique_ptr<ProductViewController> m_mainProductView;
 };
 
 } // namespace zelvor
