@@ -309,5 +309,15 @@ TYPED_TEST(FlatCatalog, aVisibleListIsReadAtOnceAndToldToItsViewer)
     EXPECT_EQ(this->controller.view.loadedRecords().size(), 1U);
 }
 
+TYPED_TEST(FlatCatalog, aVisibleListDropsARecordWhoseCommitFailed)
+{
+    this->controller.view.setVisible(true);
+    auto record = std::make_shared<typename TypeParam::Record>();
+    record->name = u"Lost"_s;
+    this->program.connector->failCall(1, FaultInjectingConnector::Commit);
+    EXPECT_FALSE(this->controller.writeRecord(record));
+    EXPECT_TRUE(this->controller.view.loadedRecords().empty());
+}
+
 } // namespace
 } // namespace zelvor
