@@ -19,10 +19,13 @@
 #include "documents/product_document.h"
 #include "documents/product_document_row.h"
 #include "documents/property_document.h"
+#include "store/connector.h"
 #include "store/menu.h"
 #include "store/params.h"
 
+#include <algorithm>
 #include <array>
+#include <string>
 
 namespace zelvor {
 
@@ -55,6 +58,16 @@ std::span<const TableInfo* const> projectTables()
         &StockHistory::table(),
     };
     return tables;
+}
+
+bool hasAllTables(Connector& connector)
+{
+    return std::ranges::all_of(projectTables(), [&](const TableInfo* table) {
+        std::string sql = "SELECT id";
+        for (const ColumnInfo& column : table->columns)
+            sql += std::string(",") + column.name;
+        return connector.scan(sql + " FROM " + table->name + " LIMIT 0", {}, [](const Statement&) {});
+    });
 }
 
 } // namespace zelvor
