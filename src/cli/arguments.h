@@ -24,6 +24,7 @@ public:
                                           QString* error);
 
     const QStringList& positional() const { return m_positional; }
+    QStringList options() const { return m_options.keys(); } // those given
     bool has(const QString& option) const { return m_options.contains(option); }
     // The value of an option that was given; none otherwise.
     std::optional<QString> value(const QString& option) const;

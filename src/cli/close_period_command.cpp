@@ -1,9 +1,7 @@
 #include "cli/command.h"
+#include "cli/month_closing.h"
 #include "cli/output.h"
 #include "cli/program.h"
-#include "period/period_closing.h"
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace zelvor {
 
@@ -12,21 +10,12 @@ namespace {
 int run(const Arguments& arguments)
 {
     Program program;
-    const QString path = arguments.positional().first();
-    if (!program.open(path, Access::ReadWrite))
+    if (!program.open(arguments.positional().first(), Access::ReadWrite))
         return exitBadUsage;
-    const auto params = program.appDelegate.params();
-    if (!params)
-        return badUsage(path + u": the project has no settings row"_s);
-    PeriodClosing closing(program.appDelegate);
-    if (closing.isPeriodSaved(params->lastPeriodSaved)) {
-        writeError(u"the last finished month is closed already"_s);
-        return exitRefused;
-    }
-    const qint64 start = closing.getStartPeriodDateFromDate(program.appDelegate.now(), *params);
-    if (closing.closePeriod(start, *params))
+    const Answer answer = closeLastMonth(program.appDelegate);
+    if (answer.isDone())
         return exitDone;
-    writeError(u"Failed to close month"_s);
+    writeError(answer.text);
     return exitRefused;
 }
 

@@ -2,6 +2,8 @@
 
 #include "cli/arguments.h"
 
+#include <QtCore/QByteArray>
+
 #include <span>
 
 namespace zelvor {
@@ -22,11 +24,16 @@ struct Command {
     int minimumWords;
     int maximumWords;
     int (*run)(const Arguments& arguments);
+    QByteArray (*moreDetails)() = nullptr; // what only the command itself can list
 };
 
 extern const Command createCommand;
 extern const Command infoCommand;
+extern const Command applyCommand;
+extern const Command importCommand;
+extern const Command reportCommand;
 extern const Command closePeriodCommand;
+extern const Command checkCommand;
 extern const Command backupCommand;
 
 // One line on standard error; answers exitBadUsage.

@@ -69,6 +69,7 @@ JsonWriter& JsonWriter::open(char bracket)
 {
     separate();
     m_text += bracket;
+    ++m_depth;
     m_needsComma = false;
     return *this;
 }
@@ -76,7 +77,7 @@ JsonWriter& JsonWriter::open(char bracket)
 JsonWriter& JsonWriter::close(char bracket)
 {
     m_text += bracket;
-    m_needsComma = true;
+    m_needsComma = --m_depth > 0;
     return *this;
 }
 

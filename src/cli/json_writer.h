@@ -6,7 +6,8 @@
 
 namespace zelvor {
 
-// Writes JSON piece by piece, keys in the order given, so that a long answer never lies in memory whole.
+// Writes JSON piece by piece, keys in the order given, so that a long answer never lies in memory whole. When
+// the last bracket is closed a new text begins.
 // Numbers are the shortest text that reads back as the same value; NaN is null.
 class JsonWriter {
 public:
@@ -39,6 +40,7 @@ private:
     void writeText(const QString& text);
 
     QByteArray m_text;
+    int m_depth = 0; // open brackets
     bool m_needsComma = false;
 };
 

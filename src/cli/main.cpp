@@ -16,10 +16,8 @@ namespace zelvor {
 namespace {
 
 constexpr std::array commands{
-    &createCommand,
-    &infoCommand,
-    &closePeriodCommand,
-    &backupCommand,
+    &createCommand, &infoCommand,        &applyCommand, &importCommand,
+    &reportCommand, &closePeriodCommand, &checkCommand, &backupCommand,
 };
 
 int printHelp()
@@ -38,6 +36,8 @@ int printHelpOf(const Command& command)
     QByteArray text = "Usage: zelvor-cli " + QByteArray(command.usage) + "\n\n" + command.summary + '\n';
     if (*command.details)
         text += '\n' + QByteArray(command.details);
+    if (command.moreDetails)
+        text += command.moreDetails();
     return writeOutput(text) ? exitDone : exitRefused;
 }
 

@@ -34,6 +34,11 @@ bool isStorableText(const QString& text)
     return !text.contains(QChar(u'\0')) && text.isValidUtf16();
 }
 
+bool isAcceptedMoment(qint64 moment)
+{
+    return moment >= earliestMoment && moment <= latestMoment;
+}
+
 std::optional<qint64> momentFromText(const QString& text, const Calendar& calendar)
 {
     const bool dayOnly = text.size() == 10;
@@ -100,7 +105,7 @@ qint64 OperationReader::moment(const QString& key, const Calendar& calendar, qin
     const QJsonValue found = value(key);
     const std::optional<qint64> moment =
         found.isDouble() ? integer(key, absent) : momentFromText(found.toString(), calendar);
-    if (moment && *moment >= earliestMoment && *moment <= latestMoment)
+    if (moment && isAcceptedMoment(*moment))
         return *moment;
     wrongKind(key, "a moment: seconds since 1970, \"2026-10-05\" or \"2026-10-05T09:30:00\"");
     return absent;

@@ -51,6 +51,7 @@ private:
 Decimal acceptedNumber(QStringView text);
 // Whether the text can be stored and read back as it is: no NUL, no half of a surrogate pair.
 bool isStorableText(const QString& text);
+bool isAcceptedMoment(qint64 moment); // of the years 1900 to 9999
 // Local time as "2026-10-05" or "2026-10-05T09:30:00"; none for anything else.
 std::optional<qint64> momentFromText(const QString& text, const Calendar& calendar);
 

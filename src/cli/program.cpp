@@ -1,6 +1,13 @@
 #include "cli/program.h"
 
 #include "cli/output.h"
+#include "shell/project_tables.h"
+
+#include <QtCore/QFile>
+
+#include <filesystem>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace zelvor {
 
@@ -18,10 +25,27 @@ Program::Program() : appDelegate({m_clock, Calendar(QTimeZone::systemTimeZone())
 
 bool Program::open(const QString& path, Access access)
 {
-    if (appDelegate.connector.open(path, access))
+    Connector& connector = appDelegate.connector;
+    QString problem;
+    if (!connector.open(path, access))
+        problem = connector.openError();
+    else if (access == Access::ReadWrite && connector.isReadOnly())
+        problem = u"cannot write to "_s + path + u": the file or its folder is read-only"_s;
+    else if (access == Access::ReadWrite && !hasAllTables(connector))
+        problem = u"cannot write to "_s + path + u": it lacks tables or columns of a project"_s;
+    if (problem.isEmpty())
         return true;
-    writeError(appDelegate.connector.openError());
+    writeError(problem);
     return false;
+}
+
+bool isSameFile(const QString& a, const QString& b)
+{
+    std::error_code error;
+    const auto pathOf = [](const QString& name) {
+        return std::filesystem::path(QFile::encodeName(name).toStdString());
+    };
+    return std::filesystem::equivalent(pathOf(a), pathOf(b), error);
 }
 
 } // namespace zelvor

@@ -23,14 +23,19 @@ private:
     QString m_text;
 };
 
+// Whether both paths lead to one file, whose contents are not touched.
+bool isSameFile(const QString& a, const QString& b);
+
 // The engine as one command uses it: the machine's clock (or a replayed one) and zone, nobody to ask.
 class Program {
 public:
     Program();
 
-    // The moment of everything that follows is `clock`'s from here on. It must outlive the program.
+    // The moment of everything that follows is `clock`'s, until it is the machine's again.
     void replayBy(const Clock& clock) { m_clock.source = &clock; }
-    // Opens a project for the command; on failure one line went to standard error.
+    void useMachineClock() { m_clock.source = &m_clock.system; }
+    // Opens a project for the command; on failure one line went to standard error. For writing, the file must
+    // be writable and have all tables of a project.
     bool open(const QString& path, Access access);
 
 private:

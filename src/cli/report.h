@@ -1,0 +1,34 @@
+#pragma once
+
+#include "cli/arguments.h"
+#include "core/view.h"
+#include "store/app_delegate.h"
+
+#include <functional>
+#include <span>
+
+namespace zelvor {
+
+// What a report hands over to be printed: the cells of its view and the marker of each row.
+struct ReportTable {
+    const TableView& view;
+    std::function<QString(int row)> kind;
+};
+
+// One report of the command line. `run` computes it and hands its table to `print`, whose answer (an exit
+// code) it passes on; options that make no sense end in badUsage.
+struct Report {
+    using Print = std::function<int(const ReportTable&)>;
+    const char* name;
+    const char* details; // what --help says of it
+    std::span<const OptionInfo> options;
+    int (*run)(AppDelegate& appDelegate, const Arguments& arguments, const Print& print);
+};
+
+extern const Report balanceReport;
+extern const Report periodSellReport;
+extern const Report journalReport;
+
+std::span<const Report* const> reports();
+
+} // namespace zelvor

@@ -1,0 +1,81 @@
+#include "cli/report_options.h"
+
+#include "cli/operation_reader.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zelvor {
+
+void ReportOptions::fail(const QString& sentence)
+{
+    if (m_error.isEmpty())
+        m_error = u"report: "_s + sentence;
+}
+
+void ReportOptions::enterPeriod(DatePicker& dateFrom, DatePicker& dateTo)
+{
+    enterMoment(u"--from"_s, true, dateFrom);
+    enterMoment(u"--to"_s, false, dateTo);
+}
+
+void ReportOptions::enterMoment(const QString& option, bool isStart, DatePicker& picker)
+{
+    const std::optional<QString> text = m_arguments.value(option);
+    if (!text)
+        return;
+    std::optional<qint64> moment;
+    if (text->startsWith(u'@')) {
+        bool isNumber = false;
+        const qint64 seconds = text->mid(1).toLongLong(&isNumber);
+        if (isNumber && isAcceptedMoment(seconds))
+            moment = seconds;
+    } else {
+        moment = momentFromText(*text, m_calendar);
+        if (moment && text->size() == 10)
+            moment = m_calendar.normalizedDate(*moment, isStart);
+    }
+    if (!moment) {
+        fail(option + u" must be a day like 2026-10-05, or @ and seconds since 1970"_s);
+        return;
+    }
+    picker.setMoment(*moment);
+    picker.userChanged();
+}
+
+std::vector<qint64> ReportOptions::ids(const QString& option)
+{
+    std::vector<qint64> ids;
+    const std::optional<QString> text = m_arguments.value(option);
+    if (!text)
+        return ids;
+    for (const QString& word : text->split(u',')) {
+        bool isNumber = false;
+        const qint64 id = word.toLongLong(&isNumber);
+        if (!isNumber || id <= 0)
+            fail(option + u" must be a list of ids like 1,2,3"_s);
+        ids.push_back(id);
+    }
+    return ids;
+}
+
+int ReportOptions::choice(const QString& option, const QStringList& words)
+{
+    const QString word = m_arguments.value(option).value_or(words.first());
+    const auto place = static_cast<int>(words.indexOf(word));
+    if (place < 0)
+        fail(option + u" must be one of "_s + words.join(u", "_s));
+    return place;
+}
+
+QStringList ReportOptions::words(const QString& option, const QStringList& known)
+{
+    const std::optional<QString> text = m_arguments.value(option);
+    const QStringList words = text ? text->split(u',') : QStringList();
+    for (const QString& word : words) {
+        if (!known.contains(word))
+            fail(option + u" takes "_s + known.join(u", "_s));
+    }
+    return words;
+}
+
+} // namespace zelvor
