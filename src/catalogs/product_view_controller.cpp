@@ -293,12 +293,6 @@ QString ProductViewController::titleOfEdited(bool group) const
     return group ? localized("Edit Product Group") : localized("Edit Product");
 }
 
-void ProductViewController::disableMenus(const Node& node)
-{
-    if (node->isGroup())
-        disableItems(productGroupGroupSelect, node->id, node->getChildrenIDs());
-}
-
 void ProductViewController::bindGroup(ProductGroup& group)
 {
     productGroupName.setText(group.name);

@@ -118,7 +118,6 @@ protected:
     void postChanged() override;
     void prepareLinked() override { prepareMeasurements(); }
     void treeBuilt() override { initProductGroupSelects(); }
-    void disableMenus(const Node& node) override;
     void takenBack() override;
 
 private:

@@ -105,7 +105,11 @@ protected:
     // A leaf was edited: what hangs on it is renewed; the tree keeps its order.
     virtual void leafEdited(Leaf& /*leaf*/) {}
     // Keeps the record's own place and those below it out of the choosers of its parent.
-    virtual void disableMenus(const Node& /*node*/) {}
+    virtual void disableMenus(const Node& node)
+    {
+        if (node->isGroup())
+            disableItems(groupForm().group, node->id, node->getChildrenIDs());
+    }
     virtual void enableAllMenuItems()
     {
         groupForm().group.enableAllItems();
