@@ -48,6 +48,7 @@ struct Connector::Impl {
     bool writeRows(const TableInfo& table, TableModel& head, std::vector<TableModel*>& inserted);
     int insertRow(const TableInfo& table, TableModel& record);
     int updateRow(const TableInfo& table, TableModel& record);
+    int updateBy(Operation operation, const TableInfo& table, TableModel& record);
     int store(const TableInfo& table, TableModel& head, bool isNew);
     bool readFailed();
     bool createAll(const TableInfo& table);
@@ -472,9 +473,16 @@ int Connector::Impl::insertRow(const TableInfo& table, TableModel& record)
 
 int Connector::Impl::updateRow(const TableInfo& table, TableModel& record)
 {
+    if (!table.indexes.empty() && updateBy(Operation::UpdateUnindexed, table, record) == 1)
+        return 1;
+    return updateBy(Operation::Update, table, record);
+}
+
+int Connector::Impl::updateBy(Operation operation, const TableInfo& table, TableModel& record)
+{
     if (!transaction.takesWrites())
         return 0;
-    Query query = statements.query(Operation::Update, &table);
+    Query query = statements.query(operation, &table);
     if (query.isValid()) {
         bindRecord(table, record, query.statement());
         query.statement().bindInteger(static_cast<int>(table.columns.size()) + 1, record.id);

@@ -21,9 +21,10 @@ enum class Operation : std::uint8_t {
     RowsOfOne,    // marks: head id; one column more than the class has: the head's id
     RowsOfRange,
     RowsListed,
-    Insert, // marks: the columns
-    Update, // marks: the columns, id
-    Remove, // marks: id
+    Insert,          // marks: the columns
+    Update,          // marks: the columns, id
+    UpdateUnindexed, // the same, for a row whose indexed columns stay as they are; otherwise it finds no row
+    Remove,          // marks: id
     SelectWhere,
     AnyWhere,
     Whole,

@@ -1,5 +1,7 @@
 #include "store/statement_text.h"
 
+#include <algorithm>
+
 #include <cctype>
 
 namespace zelvor {
@@ -41,12 +43,42 @@ std::string insertText(const TableInfo& table)
     return std::string("INSERT INTO ") + table.name + "(" + names + ") VALUES(" + marks + ")";
 }
 
-std::string updateText(const TableInfo& table)
+bool isPartOfName(char letter)
+{
+    return (letter >= 'a' && letter <= 'z') || (letter >= '0' && letter <= '9') || letter == '_';
+}
+
+// Whether an index of the class's table names the column.
+bool isIndexed(const TableInfo& table, std::string_view column)
+{
+    return std::ranges::any_of(table.indexes, [column](const IndexInfo& index) {
+        const std::string_view target = index.target;
+        for (std::size_t at = target.find('('); (at = target.find(column, at + 1)) != target.npos;) {
+            const std::size_t end = at + column.size();
+            if (!isPartOfName(target[at - 1]) && (end == target.size() || !isPartOfName(target[end])))
+                return true;
+        }
+        return false;
+    });
+}
+
+// With keepIndexed the indexed columns are asked for and not set: SQLite writes an index anew whenever one
+// of its columns is set, even to what it was.
+std::string updateText(const TableInfo& table, bool keepIndexed)
 {
     std::string changes;
-    for (const ColumnInfo& column : table.columns)
-        changes.append(changes.empty() ? "" : ",").append(column.name).append("=?");
-    return std::string("UPDATE ") + table.name + " SET " + changes + " WHERE id=?";
+    std::string condition = std::string(" WHERE id=?").append(std::to_string(table.columns.size() + 1));
+    int mark = 0;
+    for (const ColumnInfo& column : table.columns) {
+        const std::string value = std::string("?").append(std::to_string(++mark));
+        if (keepIndexed && isIndexed(table, column.name))
+            condition.append(" AND ").append(column.name).append(" IS ").append(value);
+        else
+            changes.append(changes.empty() ? "" : ",").append(column.name).append("=").append(value);
+    }
+    if (changes.empty()) // nothing but indexed columns
+        changes = "id=id";
+    return std::string("UPDATE ") + table.name + " SET " + changes + condition;
 }
 
 const char* columnType(ColumnKind kind)
@@ -123,7 +155,9 @@ std::string statementText(Operation operation, const TableInfo* table, std::stri
     case Operation::Insert:
         return insertText(*table);
     case Operation::Update:
-        return updateText(*table);
+        return updateText(*table, false);
+    case Operation::UpdateUnindexed:
+        return updateText(*table, true);
     case Operation::Remove:
         return std::string("DELETE FROM ") + table->name + " WHERE id=?";
     case Operation::SelectWhere:
