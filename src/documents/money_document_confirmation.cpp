@@ -71,18 +71,18 @@ bool MoneyDocumentViewController::confirmDoc()
     UserWrite write(appDelegate.connector);
     if (!checkStoredDraft<MoneyDocument>() || !runSteps() || !storeConfirmed(write))
         write.fail();
-    const bool stepsWentWell = !write.failed();
+    const bool refused = write.failed();
     const bool confirmed = write.finish([this] {
         updateInterface();
         postConfirmed();
     });
     if (!confirmed) {
-        if (stepsWentWell)
-            fail("Can't confirm document.\n"); // the commit did not hold
         *document = before;
         updateInterface();
         announceTakenBack();
-        showAlert();
+        // Of a commit that failed the application has told already.
+        if (refused)
+            showAlert();
     }
     progress.stop();
     alertMessage.clear();
@@ -101,10 +101,9 @@ bool MoneyDocumentViewController::runSteps()
 
 bool MoneyDocumentViewController::storeConfirmed(UserWrite& write)
 {
-    if (document->id == 0 && !write.step(appDelegate.connector.insert(*document)))
-        return false;
     document->confirmed = true;
-    return write.step(appDelegate.connector.update(*document));
+    return write.step(document->id == 0 ? appDelegate.connector.insert(*document)
+                                        : appDelegate.connector.update(*document));
 }
 
 void MoneyDocumentViewController::postConfirmed()

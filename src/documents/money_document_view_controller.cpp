@@ -1,5 +1,7 @@
 #include "documents/money_document_view_controller.h"
 
+#include "catalogs/contragent_select_view.h"
+#include "catalogs/expend_select_view.h"
 #include "documents/visible_record.h"
 #include "store/user_write.h"
 
@@ -19,11 +21,64 @@ MoneyDocumentViewController::~MoneyDocumentViewController() = default;
 // Rates of currencies are read when they are needed, so a change of them needs no ear.
 void MoneyDocumentViewController::observeCatalogs()
 {
-    NotificationCenter& center = appDelegate.notifications;
-    m_observations.push_back(center.observe(NotificationName::AccountChangedNotification,
-                                            [this](const Notification&) { mainView.accountsChanged(); }));
-    m_observations.push_back(center.observe(NotificationName::ManagerChangedNotification,
-                                            [this](const Notification&) { mainView.employeesChanged(); }));
+    const auto observe = [this](NotificationName name, auto update) {
+        m_observations.push_back(
+            appDelegate.notifications.observe(name, [update](const Notification&) { update(); }));
+    };
+    observe(NotificationName::AccountChangedNotification, [this] { mainView.accountsChanged(); });
+    observe(NotificationName::ManagerChangedNotification, [this] { mainView.employeesChanged(); });
+    observe(NotificationName::ContragentChangedNotification, [this] { updateContragents(); });
+    observe(NotificationName::ExpendChangedNotification, [this] { updateExpends(); });
+}
+
+void MoneyDocumentViewController::updateContragents()
+{
+    if (m_contragentSelectView)
+        m_contragentSelectView->markStale();
+    if (document->confirmed || document->contragentID == 0)
+        return;
+    if (const auto changed = appDelegate.connector.select<Contragent>(document->contragentID, Fill::Nothing))
+        setNewContragent(changed);
+}
+
+void MoneyDocumentViewController::updateExpends()
+{
+    if (m_expendSelectView)
+        m_expendSelectView->markStale();
+    if (document->confirmed || document->expendID == 0)
+        return;
+    if (const auto changed = appDelegate.connector.select<Expend>(document->expendID, Fill::Nothing))
+        setNewExpend(changed);
+}
+
+ContragentSelectView& MoneyDocumentViewController::contragentSelectView()
+{
+    if (!m_contragentSelectView) {
+        m_contragentSelectView = std::make_unique<ContragentSelectView>(appDelegate);
+        m_contragentSelectView->sender = this;
+    }
+    return *m_contragentSelectView;
+}
+
+ExpendSelectView& MoneyDocumentViewController::expendSelectView()
+{
+    if (!m_expendSelectView) {
+        m_expendSelectView = std::make_unique<ExpendSelectView>(appDelegate);
+        m_expendSelectView->sender = this;
+    }
+    return *m_expendSelectView;
+}
+
+void MoneyDocumentViewController::selectContragent()
+{
+    if (!document->confirmed && contragentEnabled())
+        contragentSelectView().selectPopover.open();
+}
+
+void MoneyDocumentViewController::selectExpend()
+{
+    if (!document->confirmed && expendEnabled())
+        expendSelectView().selectPopover.open();
 }
 
 bool MoneyDocumentViewController::accountFromEnabled() const
@@ -74,8 +129,10 @@ void MoneyDocumentViewController::prepareData()
 
 void MoneyDocumentViewController::clearSelf()
 {
-    if (justConfirmed)
-        m_observations.clear();
+    if (!justConfirmed)
+        return;
+    m_contragentSelectView.reset();
+    m_expendSelectView.reset();
 }
 
 void MoneyDocumentViewController::setNewContragent(const std::shared_ptr<Contragent>& contragent)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "catalogs/selection_owner.h"
 #include "core/notification_center.h"
 #include "documents/document_view_controller.h"
 #include "documents/money_document.h"
@@ -11,6 +12,8 @@
 
 namespace zelvor {
 
+class ContragentSelectView;
+class ExpendSelectView;
 class UserWrite;
 
 // The form of a money document: choosing its parties, saving it as a draft, deleting the draft, confirming
@@ -19,7 +22,9 @@ class UserWrite;
 //
 // Who fills the form without a screen: prepareData(), then the sum, the parties by their ids, and last the
 // received sum where one is given. The rate between two accounts is worked out when the second is chosen.
-class MoneyDocumentViewController final : public DocumentViewController {
+class MoneyDocumentViewController final : public DocumentViewController,
+                                          public ContragentSelectProtocol,
+                                          public ExpendSelectProtocol {
 public:
     // A new document has its type and nothing else.
     MoneyDocumentViewController(AppDelegate& appDelegate, std::shared_ptr<MoneyDocument> document);
@@ -42,9 +47,14 @@ public:
     bool expendEnabled() const;
     bool sumToEnabled() const;
 
-    void setNewContragent(const std::shared_ptr<Contragent>& contragent);
+    // Made when they are asked for.
+    ContragentSelectView& contragentSelectView();
+    ExpendSelectView& expendSelectView();
+    void selectContragent(); // opens the chooser
+    void setNewContragent(const std::shared_ptr<Contragent>& contragent) override;
     void clearContragent();
-    void setNewExpend(const std::shared_ptr<Expend>& expend);
+    void selectExpend(); // opens the chooser
+    void setNewExpend(const std::shared_ptr<Expend>& expend) override;
     void clearExpend();
     // The record with that id, 0 for none. False, and nothing chosen, when there is no such record or it is
     // hidden.
@@ -77,8 +87,12 @@ private:
     void showParties();
     bool storeConfirmed(UserWrite& write);
     void observeCatalogs();
+    void updateContragents();
+    void updateExpends();
 
     std::vector<NotificationCenter::Observation> m_observations;
+    std::unique_ptr<ContragentSelectView> m_contragentSelectView;
+    std::unique_ptr<ExpendSelectView> m_expendSelectView;
 };
 
 } // namespace zelvor

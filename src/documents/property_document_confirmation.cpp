@@ -51,18 +51,18 @@ bool PropertyDocumentViewController::confirmDoc()
         if (!storeProperty(write) || !storeDocument(write))
             fail("Can't confirm document.\n");
     }
-    const bool stepsWentWell = !write.failed();
+    const bool refused = write.failed();
     const bool confirmed = write.finish([this] {
         updateInterface();
         postConfirmed();
     });
     if (!confirmed) {
-        if (stepsWentWell)
-            fail("Can't confirm document.\n"); // the commit did not hold
         *document = before;
         updateInterface();
         announceTakenBack();
-        showAlert();
+        // Of a commit that failed the application has told already.
+        if (refused)
+            showAlert();
     }
     progress.stop();
     alertMessage.clear();

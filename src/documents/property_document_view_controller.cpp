@@ -1,5 +1,6 @@
 #include "documents/property_document_view_controller.h"
 
+#include "catalogs/contragent_select_view.h"
 #include "core/text_order.h"
 #include "documents/visible_record.h"
 #include "store/params.h"
@@ -42,6 +43,37 @@ void PropertyDocumentViewController::observeCatalogs()
     m_observations.push_back(
         appDelegate.notifications.observe(NotificationName::PropertiesChangedNotification,
                                           [this](const Notification&) { updateProperties(); }));
+    m_observations.push_back(
+        appDelegate.notifications.observe(NotificationName::ContragentChangedNotification,
+                                          [this](const Notification&) { updateContragents(); }));
+}
+
+void PropertyDocumentViewController::updateContragents()
+{
+    if (m_contragentSelectView)
+        m_contragentSelectView->markStale();
+    if (document->confirmed || document->contragentID == 0)
+        return;
+    const auto changed = appDelegate.connector.select<Contragent>(document->contragentID, Fill::Nothing);
+    if (!changed)
+        return;
+    document->insertContragent(changed); // the deferment stays as it was entered
+    showParties();
+}
+
+ContragentSelectView& PropertyDocumentViewController::contragentSelectView()
+{
+    if (!m_contragentSelectView) {
+        m_contragentSelectView = std::make_unique<ContragentSelectView>(appDelegate);
+        m_contragentSelectView->sender = this;
+    }
+    return *m_contragentSelectView;
+}
+
+void PropertyDocumentViewController::selectContragent()
+{
+    if (!document->confirmed && contragentEnabled())
+        contragentSelectView().selectPopover.open();
 }
 
 bool PropertyDocumentViewController::contragentEnabled() const
@@ -91,8 +123,9 @@ void PropertyDocumentViewController::prepareData()
     docSum.setValue(document->innerDocSum);
     currentCost.setValue(document->property->innerCurrentCost);
     amortizationPeriod.setValue(document->property->amortizationPeriod);
-    const bool isDue = document->id != 0 && document->payToDate >= document->date;
-    deferment.setValue(isDue ? (document->payToDate - document->date) / secondsPerDay : 0);
+    if (document->id != 0) // a file may hold any two moments
+        deferment.setValue(
+            Decimal::fromParts((Int128(document->payToDate) - document->date) / secondsPerDay, 0));
     defermentSlider.setValue(deferment.integer());
     updateInterface();
 }

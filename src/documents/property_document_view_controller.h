@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalogs/property_select_view.h"
+#include "catalogs/selection_owner.h"
 #include "core/notification_center.h"
 #include "documents/document_view_controller.h"
 #include "documents/property_document.h"
@@ -12,6 +13,7 @@
 
 namespace zelvor {
 
+class ContragentSelectView;
 class UserWrite;
 
 // The form of a fixed-asset document. There is no draft: the document, and an asset that comes with it, are
@@ -20,7 +22,7 @@ class UserWrite;
 //
 // Who fills the form without a screen: prepareData(), then the counterparty and the asset by their ids, then
 // the fields; choosing a counterparty fills the deferment, choosing an asset to sell fills the sum.
-class PropertyDocumentViewController final : public DocumentViewController {
+class PropertyDocumentViewController final : public DocumentViewController, public ContragentSelectProtocol {
 public:
     // A new document has its type and nothing else.
     PropertyDocumentViewController(AppDelegate& appDelegate, std::shared_ptr<PropertyDocument> document);
@@ -48,7 +50,9 @@ public:
     bool sumEnabled() const;
     bool controlsEnabled() const; // the period and the like
 
-    void setNewContragent(const std::shared_ptr<Contragent>& contragent);
+    ContragentSelectView& contragentSelectView(); // made when it is asked for
+    void selectContragent();                      // opens the chooser
+    void setNewContragent(const std::shared_ptr<Contragent>& contragent) override;
     void clearContragent();
     // The assets that are held, read when the popover opens.
     PropertySelectView propertySelectView;
@@ -87,10 +91,12 @@ private:
 
     void bindFields();
     void observeCatalogs();
+    void updateContragents();
     void updateProperties();
     void showParties();
 
     std::vector<NotificationCenter::Observation> m_observations;
+    std::unique_ptr<ContragentSelectView> m_contragentSelectView;
     bool m_propertiesStale = true;
 };
 

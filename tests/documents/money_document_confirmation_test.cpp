@@ -283,7 +283,6 @@ TEST_F(MoneyConfirmation, eachStepHasItsOwnSentence)
         {MoneyFromContragent, 2, plus},
         {MoneyFromContragent, 3, contragent},
         {MoneyFromContragent, 4, {}}, // an open document
-        {MoneyFromContragent, 5, {}}, // the document itself
         {MoneyToContragent, 2, minus},
         {MoneyToContragent, 3, contragent},
         {MoneyToExpend, 2, minus},
@@ -304,6 +303,14 @@ TEST_F(MoneyConfirmation, eachStepHasItsOwnSentence)
         EXPECT_TRUE(books.connector->hasFailed());
         EXPECT_TRUE(books.posted.names.empty());
     }
+}
+
+TEST_F(MoneyConfirmation, aDocumentThatIsNotStoredIsRefusedWithoutASentence)
+{
+    const auto form = filled(MoneyFromContragent, 10);
+    books.connector->failCall(1, FaultInjectingConnector::Insert);
+    expectRefused(*form, {});
+    EXPECT_TRUE(books.posted.names.empty());
 }
 
 TEST_F(MoneyConfirmation, anAccountThatIsNotThereCannotBeChecked)
@@ -372,13 +379,20 @@ TEST_F(MoneyConfirmation, ofADraftKeepsItsId)
     EXPECT_TRUE(books.db.select<MoneyDocument>(id)->confirmed);
 }
 
-TEST_F(MoneyConfirmation, thatTheDiskRefusesIsTakenBackInMemoryToo)
+TEST_F(MoneyConfirmation, thatTheDiskRefusesIsTakenBackInMemoryTooAndToldOnce)
 {
     const auto form = filled(MoneyFromContragent, 10);
+    const QStringList before = books.dump();
     books.connector->failCall(1, FaultInjectingConnector::Commit);
-    expectRefused(*form, u"Can't confirm document.\n"_s);
+    EXPECT_FALSE(form->confirmDoc());
+    EXPECT_EQ(books.dump(), before);
+    ASSERT_EQ(books.dialogs.alerts.size(), 1u);
+    EXPECT_EQ(books.dialogs.lastAlert(), u"The changes were not saved!"_s);
+    EXPECT_FALSE(form->document->confirmed);
+    EXPECT_EQ(form->document->id, 0);
     EXPECT_TRUE(form->documentTitle.text().endsWith(u"#0 (write)"_s));
     EXPECT_EQ(form->contragentBalance.real(), -20);
+    EXPECT_TRUE(form->mainView.docSum.enabled());
     EXPECT_TRUE(form->confirmDoc());
     EXPECT_EQ(books.read(*ann)->balance(), -10);
 }
