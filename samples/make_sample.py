@@ -280,7 +280,8 @@ class Larkmoor:
                 parent = groups[key]
             for name, cost, price, supplier, keep in goods:
                 unit = "metre" if name in BY_METRE else "pair" if name in PAIRS else "piece"
-                values = dict(name=name, group_id=parent, measurement_id=self.unit[unit], price_cost=f"{price:.2f}")
+                values = dict(name=name, group_id=parent, measurement_id=self.unit[unit], base_cost=f"{cost:.2f}",
+                              price_cost=f"{price:.2f}")
                 if name in BOXED:
                     values.update(pack_id=self.unit["box"], pack_amount=BOXED[name])
                 number = put("Product", **values)
