@@ -83,7 +83,9 @@ const std::vector<PeriodSellReportRow*>& PeriodSellReportRow::children() const
 
 void PeriodSellReportRow::appendDataToParent(const PeriodSellReportRow& row)
 {
-    for (PeriodSellReportRow* above = parent; above && above->addData(row); above = above->parent) {
+    const Decimal packsOfRow = row.innerPacks();
+    for (PeriodSellReportRow* above = parent; above && above->addData(row, packsOfRow);
+         above = above->parent) {
     }
 }
 

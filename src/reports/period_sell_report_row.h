@@ -52,7 +52,8 @@ public:
     QVariant valueForIdentifier(QStringView identifier) const override;
 
 private:
-    virtual bool addData(const PeriodSellReportRow&) { return false; }
+    // Adds the row's sums and those packs; false for a row that gathers nothing.
+    virtual bool addData(const PeriodSellReportRow&, const Decimal&) { return false; }
 
     mutable std::vector<PeriodSellReportRow*> m_children;
     mutable bool m_childrenInOrder = true;

@@ -1,34 +1,41 @@
 #pragma once
 
-#include "reports/period_sell_report_row.h"
-#include "store/connector.h"
+#include "reports/total_row_for_period_sell.h"
 
-#include <memory>
 #include <vector>
 
 namespace zelvor {
 
-// What the period sell report is asked for. An empty list of ids lets everything through; both dates are
-// exclusive.
-struct PeriodSellReportQuery {
-    qint64 dateFrom = 0;
-    qint64 dateTo = 0;
-    std::vector<qint64> productTypeIDs;
-    std::vector<qint64> productIDs;
-    std::vector<qint64> contragentIDs;
-    std::vector<qint64> contragentTypeIDs;
-    std::vector<qint64> selectedManagers;
+// The rows of a period sell report in reading order. They stay where they are for as long as this object, or
+// the one it is moved to, lives. Kept in blocks: a report by customers has some hundred thousand of them.
+class PeriodSellReportRows {
+public:
+    PeriodSellReportRows() = default;
+    PeriodSellReportRows(PeriodSellReportRows&&) = default;
+    PeriodSellReportRows& operator=(PeriodSellReportRows&&) = default;
+
+    PeriodSellReportRow& appendProduct() { return append(m_products); }
+    TotalRowForPeriodSell& appendGathering() { return append(m_gathering); }
+    const std::vector<PeriodSellReportRow*>& inOrder() const { return m_order; }
+
+private:
+    static constexpr std::size_t rowsOfABlock = 256;
+    template <class Row>
+    using Blocks = std::vector<std::vector<Row>>;
+
+    template <class Row>
+    Row& append(Blocks<Row>& blocks)
+    {
+        if (blocks.empty() || blocks.back().size() == rowsOfABlock)
+            blocks.emplace_back().reserve(rowsOfABlock);
+        Row& row = blocks.back().emplace_back();
+        m_order.push_back(&row);
+        return row;
+    }
+
+    Blocks<PeriodSellReportRow> m_products;
+    Blocks<TotalRowForPeriodSell> m_gathering;
+    std::vector<PeriodSellReportRow*> m_order;
 };
-
-using PeriodSellReportRows = std::vector<std::unique_ptr<PeriodSellReportRow>>;
-
-// The rows of the report in reading order, not yet a tree: gathering rows, and the sums of the confirmed
-// sales by product below each. The documents and their rows are read once, whatever the number of
-// counterparties. Row ids: a group's own id, a counterparty's plus 10,000, an employee's plus 100,000.
-PeriodSellReportRows readSalesByProductGroup(Connector& connector, const PeriodSellReportQuery& query);
-PeriodSellReportRows readSalesByContragent(Connector& connector, const PeriodSellReportQuery& query);
-// Without `withContragents` products stand directly below the employee.
-PeriodSellReportRows readSalesByManager(Connector& connector, const PeriodSellReportQuery& query,
-                                        bool withContragents);
 
 } // namespace zelvor

@@ -46,16 +46,21 @@ void PeriodSellReportView::setRows(PeriodSellReportRows rows)
 // at the top.
 void PeriodSellReportView::placeRows()
 {
-    std::unordered_map<qint64, PeriodSellReportRow*> firstByID;
-    firstByID.reserve(m_rows.size());
-    for (const auto& row : m_rows)
-        firstByID.try_emplace(row->id, row.get());
-    for (const auto& row : m_rows) {
-        const auto above = row->parentID != 0 ? firstByID.find(row->parentID) : firstByID.end();
-        if (above != firstByID.end())
+    std::unordered_map<qint64, PeriodSellReportRow*> parents; // few, however many rows there are
+    for (const PeriodSellReportRow* row : m_rows.inOrder())
+        parents.try_emplace(row->parentID, nullptr);
+    parents.erase(0);
+    for (PeriodSellReportRow* row : m_rows.inOrder()) {
+        const auto wanted = parents.find(row->id);
+        if (wanted != parents.end() && !wanted->second)
+            wanted->second = row;
+    }
+    for (PeriodSellReportRow* row : m_rows.inOrder()) {
+        const auto above = parents.find(row->parentID);
+        if (above != parents.end() && above->second)
             above->second->setChild(*row);
         else
-            m_collapsedRows.push_back(row.get());
+            m_collapsedRows.push_back(row);
         if (row->isProduct())
             addToGrandTotal(*row);
     }

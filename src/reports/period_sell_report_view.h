@@ -3,9 +3,7 @@
 #include "core/outlets.h"
 #include "core/view.h"
 #include "reports/period_sell_report_rows.h"
-#include "reports/total_row_for_period_sell.h"
 
-#include <memory>
 #include <vector>
 
 namespace zelvor {

@@ -13,11 +13,36 @@ QString displayOf(std::size_t chosen, bool isEmpty)
     return isEmpty ? localized("all") : QString::number(chosen) + u' ' + localized("selected");
 }
 
+template <class SelectView>
+void openAsFilter(SelectView& view, SelectionOwner& owner, bool everything)
+{
+    if (everything)
+        view.selectAll();
+    else
+        view.backUpdateSelections();
+    view.sender = &owner;
+    view.selectPopover.open();
+}
+
+// A popover reads its records when it is opened next, or now while it is open.
+template <class SelectView>
+NotificationCenter::Observation staleWhen(NotificationCenter& center, NotificationName name, SelectView& view)
+{
+    return center.observe(name, [&view](const Notification&) { view.markStale(); });
+}
+
 } // namespace
 
 PeriodSellReportViewController::PeriodSellReportViewController(AppDelegate& owner)
-    : ReportViewController(owner)
+    : ReportViewController(owner), contragentSelectView(owner), productsSelectView(owner),
+      managerSelectView(owner)
 {
+    contragentSelectView.hideColumn(false);
+    NotificationCenter& center = appDelegate.notifications;
+    m_contragentsChanged =
+        staleWhen(center, NotificationName::ContragentChangedNotification, contragentSelectView);
+    m_productsChanged = staleWhen(center, NotificationName::ProductChangedNotification, productsSelectView);
+    m_managersChanged = staleWhen(center, NotificationName::ManagerChangedNotification, managerSelectView);
     setStringPredicates();
 }
 
@@ -66,10 +91,34 @@ void PeriodSellReportViewController::setStringPredicates()
         displayOf(m_query.selectedManagers.size(), m_query.selectedManagers.empty()));
 }
 
+void PeriodSellReportViewController::selectContragent()
+{
+    contragentSelectView.contragentIDs = m_query.contragentIDs;
+    contragentSelectView.contragentTypeIDs = m_query.contragentTypeIDs;
+    openAsFilter(contragentSelectView, *this,
+                 m_query.contragentIDs.empty() && m_query.contragentTypeIDs.empty());
+}
+
+void PeriodSellReportViewController::selectProduct()
+{
+    productsSelectView.productIDs = m_query.productIDs;
+    productsSelectView.productTypeIDs = m_query.productTypeIDs;
+    openAsFilter(productsSelectView, *this, m_query.productIDs.empty() && m_query.productTypeIDs.empty());
+}
+
+void PeriodSellReportViewController::selectManager()
+{
+    managerSelectView.selectedManagers = m_query.selectedManagers;
+    openAsFilter(managerSelectView, *this, m_query.selectedManagers.empty());
+}
+
 void PeriodSellReportViewController::clearContragentIDs()
 {
     setContragentIDs({});
     setContragentTypeIDs({});
+    contragentSelectView.contragentIDs.clear();
+    contragentSelectView.contragentTypeIDs.clear();
+    contragentSelectView.selectAll();
     setStringPredicates();
 }
 
@@ -77,12 +126,17 @@ void PeriodSellReportViewController::clearProductIDs()
 {
     setProductIDs({});
     setProductTypeIDs({});
+    productsSelectView.productIDs.clear();
+    productsSelectView.productTypeIDs.clear();
+    productsSelectView.selectAll();
     setStringPredicates();
 }
 
 void PeriodSellReportViewController::clearManagerIDs()
 {
     setSelectedManagers({});
+    managerSelectView.selectedManagers.clear();
+    managerSelectView.selectAll();
     setStringPredicates();
 }
 

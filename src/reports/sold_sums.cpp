@@ -32,7 +32,6 @@ Decimal sumOf(qint64 cents, const Decimal& rest)
 void SoldSums::add(const SoldRow& row)
 {
     Cell& cell = cellOf(row.productID);
-    cell.sold = true;
     for (std::size_t column = 0; column < row.values.size(); ++column) {
         qint64 cents = 0;
         if (wholeCents(row.values[column], cents))
@@ -50,7 +49,9 @@ void SoldSums::addRest(qint64 productID, std::size_t column, double value)
 
 void SoldSums::clear()
 {
-    std::ranges::fill(m_dense, Cell());
+    for (const qint64 productID : m_soldIDs)
+        m_dense[static_cast<std::size_t>(productID)] = Cell();
+    m_soldIDs.clear();
     m_sparse.clear();
     m_rest.clear();
 }
@@ -62,30 +63,35 @@ SoldSums::Cell& SoldSums::cellOf(qint64 productID)
     const auto index = static_cast<std::size_t>(productID);
     if (index >= m_dense.size())
         m_dense.resize(index + 1);
-    return m_dense[index];
+    Cell& cell = m_dense[index];
+    if (!cell.sold)
+        m_soldIDs.push_back(productID);
+    cell.sold = true;
+    return cell;
 }
 
 SoldProduct SoldSums::productOf(qint64 productID, const Cell& cell) const
 {
-    const auto place = m_rest.find(productID);
-    const std::array<Decimal, 3> rest = place != m_rest.end() ? place->second : std::array<Decimal, 3>();
+    std::array<Decimal, 3> rest;
+    if (const auto place = m_rest.find(productID); place != m_rest.end())
+        rest = place->second;
     return {productID, sumOf(cell.cents[0], rest[0]), sumOf(cell.cents[1], rest[1]),
             sumOf(cell.cents[2], rest[2])};
 }
 
-std::vector<SoldProduct> SoldSums::products() const
+std::vector<SoldProduct> SoldSums::products()
 {
     std::vector<SoldProduct> products;
+    products.reserve(m_soldIDs.size() + m_sparse.size());
     const auto firstAbove = m_sparse.lower_bound(0);
     const auto appendSparse = [&](auto from, auto to) {
         for (; from != to; ++from)
             products.push_back(productOf(from->first, from->second));
     };
     appendSparse(m_sparse.begin(), firstAbove);
-    for (std::size_t index = 0; index < m_dense.size(); ++index) {
-        if (m_dense[index].sold)
-            products.push_back(productOf(static_cast<qint64>(index), m_dense[index]));
-    }
+    std::ranges::sort(m_soldIDs);
+    for (const qint64 productID : m_soldIDs)
+        products.push_back(productOf(productID, m_dense[static_cast<std::size_t>(productID)]));
     appendSparse(firstAbove, m_sparse.end());
     return products;
 }

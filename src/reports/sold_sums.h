@@ -31,7 +31,7 @@ public:
     void add(const SoldRow& row);
     void clear();
     // In ascending order of product id.
-    std::vector<SoldProduct> products() const;
+    std::vector<SoldProduct> products();
 
 private:
     using Cents = std::array<qint64, 3>;
@@ -43,6 +43,7 @@ private:
     void addRest(qint64 productID, std::size_t column, double value);
     SoldProduct productOf(qint64 productID, const Cell& cell) const;
 
+    std::vector<qint64> m_soldIDs;                   // the cells of m_dense that are in use
     std::vector<Cell> m_dense;                       // by product id
     std::map<qint64, Cell> m_sparse;                 // ids that no ordinary catalog reaches
     std::map<qint64, std::array<Decimal, 3>> m_rest; // what is not in whole cents

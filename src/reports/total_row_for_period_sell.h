@@ -21,10 +21,11 @@ public:
     }
 
 private:
-    bool addData(const PeriodSellReportRow& row) override
+    bool addData(const PeriodSellReportRow& row, const Decimal& packs) override
     {
         addSums(row);
-        packHandler = packHandler.plus(row.innerPacks(), decimalHandler);
+        if (!packs.isZero())
+            packHandler = packHandler.plus(packs, decimalHandler);
         return true;
     }
 };

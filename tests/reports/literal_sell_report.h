@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reports/period_sell_report_rows.h"
+#include "reports/period_sell_report_reader.h"
 #include "store/connector.h"
 
 #include <QtCore/QString>

@@ -1,9 +1,8 @@
-#include "reports/period_sell_report_rows.h"
+#include "reports/period_sell_report_reader.h"
 
 #include "core/doc_type.h"
 #include "core/localized.h"
 #include "reports/sold_sums.h"
-#include "reports/total_row_for_period_sell.h"
 
 #include <algorithm>
 #include <string_view>
@@ -75,23 +74,24 @@ public:
                        });
     }
 
-    std::unique_ptr<PeriodSellReportRow> makeRow(const SoldProduct& sold) const
+    // The product's row; its parent is the product's group.
+    PeriodSellReportRow& appendRow(PeriodSellReportRows& rows, const SoldProduct& sold) const
     {
-        auto row = std::make_unique<PeriodSellReportRow>();
-        row->id = sold.productID;
-        row->rowType = u"product"_s;
-        row->innerAmount = sold.amount;
-        row->innerBaseSum = sold.baseSum;
-        row->innerPriceSum = sold.priceSum;
+        PeriodSellReportRow& row = rows.appendProduct();
+        row.id = sold.productID;
+        row.rowType = u"product"_s;
+        row.innerAmount = sold.amount;
+        row.innerBaseSum = sold.baseSum;
+        row.innerPriceSum = sold.priceSum;
         const auto fact = std::ranges::lower_bound(m_facts, sold.productID, {}, &Fact::id);
         if (fact == m_facts.end() || fact->id != sold.productID) {
-            row->innerPackAmount = Decimal::nan(); // the column of a record that is not there
+            row.innerPackAmount = Decimal::nan(); // the column of a record that is not there
             return row;
         }
-        row->name = fact->name;
-        row->unit = fact->unit;
-        row->parentID = fact->groupID;
-        row->innerPackAmount = fact->packAmount;
+        row.name = fact->name;
+        row.unit = fact->unit;
+        row.parentID = fact->groupID;
+        row.innerPackAmount = fact->packAmount;
         return row;
     }
 
@@ -155,7 +155,7 @@ public:
             m_scratch.add(row);
         return m_scratch.products();
     }
-    std::vector<SoldProduct> all() const { return m_all.products(); }
+    std::vector<SoldProduct> all() { return m_all.products(); }
 
 private:
     std::unordered_map<qint64, std::size_t> m_holders;
@@ -168,13 +168,12 @@ private:
 void appendGathering(PeriodSellReportRows& rows, qint64 id, const CatalogEntry& entry, const QString& rowType,
                      qint64 parentID)
 {
-    auto row = std::make_unique<TotalRowForPeriodSell>();
-    row->id = id;
-    row->name = entry.name;
-    row->rowType = rowType;
-    row->parentID = parentID;
-    row->parentContragentID = entry.parentContragentID;
-    rows.push_back(std::move(row));
+    TotalRowForPeriodSell& row = rows.appendGathering();
+    row.id = id;
+    row.name = entry.name;
+    row.rowType = rowType;
+    row.parentID = parentID;
+    row.parentContragentID = entry.parentContragentID;
 }
 
 void appendGroups(PeriodSellReportRows& rows, const std::vector<CatalogEntry>& groups, const QString& rowType)
@@ -186,10 +185,8 @@ void appendGroups(PeriodSellReportRows& rows, const std::vector<CatalogEntry>& g
 void appendProducts(PeriodSellReportRows& rows, const ProductFacts& facts,
                     const std::vector<SoldProduct>& sold, qint64 parentID)
 {
-    for (const SoldProduct& product : sold) {
-        rows.push_back(facts.makeRow(product));
-        rows.back()->parentID = parentID;
-    }
+    for (const SoldProduct& product : sold)
+        facts.appendRow(rows, product).parentID = parentID;
 }
 
 std::vector<CatalogEntry> readManagers(Connector& connector, const PeriodSellReportQuery& query)
@@ -300,7 +297,7 @@ PeriodSellReportRows readSalesByProductGroup(Connector& connector, const PeriodS
         sums.clear();
     const ProductFacts facts(connector);
     for (const SoldProduct& sold : sums.products())
-        rows.push_back(facts.makeRow(sold));
+        facts.appendRow(rows, sold);
     return rows;
 }
 
