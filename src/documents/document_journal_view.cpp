@@ -51,7 +51,16 @@ QVariant DocumentJournalView::value(int row, const QString& identifier) const
 {
     if (row < 0 || row >= numberOfRows())
         return QString();
-    return documents[static_cast<std::size_t>(row)]->valueForIdentifier(identifier);
+    const DocumentModel& document = *documents[static_cast<std::size_t>(row)];
+    return identifier == u"journalName" ? journalName(document) : document.valueForIdentifier(identifier);
+}
+
+QString DocumentJournalView::journalName(const DocumentModel& document) const
+{
+    QString& start = m_titleStarts[static_cast<std::size_t>(rawValue(document.docType()))];
+    if (start.isEmpty())
+        start = document.titleStart();
+    return document.journalNameFrom(start);
 }
 
 CellStyle DocumentJournalView::cellStyle(int row, const QString& identifier) const

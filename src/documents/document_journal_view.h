@@ -4,6 +4,7 @@
 #include "core/view.h"
 #include "documents/document_model.h"
 
+#include <array>
 #include <memory>
 #include <vector>
 
@@ -30,7 +31,10 @@ public:
     std::shared_ptr<DocumentModel> documentAt(int row) const;
 
 private:
+    QString journalName(const DocumentModel& document) const;
+
     DocumentJournalViewController& m_controller;
+    mutable std::array<QString, docTypeCount> m_titleStarts; // by raw value, as they are needed
 };
 
 } // namespace zelvor

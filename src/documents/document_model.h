@@ -48,7 +48,11 @@ public:
     QString managerName() const { return manager->name; }
     QString contragentName() const { return contragent->name; }
     // "Product Document 'Sale' #12", as the journal shows it.
-    virtual QString journalName() const = 0;
+    QString journalName() const { return journalNameFrom(titleStart()); }
+    // The same for a list, which keeps the start of each type: working that out is most of the cost.
+    virtual QString journalNameFrom(const QString& start) const = 0;
+    // Opener and type name, without the closing quote: "Product Document 'Sale".
+    QString titleStart() const;
     // "Product Document 'Sale' #12 (read)", as the form and its tab show it; " (write)" until confirmed.
     QString name() const;
     Color titleFontColor() const { return confirmed ? inOrderColor : redColor; }
@@ -56,7 +60,6 @@ public:
 protected:
     // "Product Document '", localised.
     virtual QString titleOpener() const = 0;
-    QString titleStart() const; // opener and type name, without the closing quote
 };
 
 } // namespace zelvor

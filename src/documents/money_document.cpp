@@ -2,6 +2,8 @@
 
 #include "core/localized.h"
 
+#include <QtCore/QStringBuilder>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace zelvor {
@@ -35,12 +37,12 @@ QString MoneyDocument::titleOpener() const
     return localized("Money Document '");
 }
 
-QString MoneyDocument::journalName() const
+QString MoneyDocument::journalNameFrom(const QString& start) const
 {
-    QString title = titleStart() + u'\'';
+    const QString number = QString::number(docNumber);
     if (docType() == DocType::MoneyToExpend)
-        title += u" ("_s + expend->name + u')';
-    return title + u" #"_s + QString::number(docNumber);
+        return start % u"' ("_s % expend->name % u") #"_s % number;
+    return start % u"' #"_s % number;
 }
 
 QVariant MoneyDocument::valueForIdentifier(QStringView key) const

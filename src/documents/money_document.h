@@ -50,7 +50,7 @@ public:
     void settEmployee(const std::shared_ptr<Manager>& record);
     void settExpend(const std::shared_ptr<Expend>& record);
 
-    QString journalName() const override;
+    QString journalNameFrom(const QString& start) const override;
     QVariant valueForIdentifier(QStringView key) const override;
     static const TableInfo& table();
 

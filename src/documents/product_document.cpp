@@ -2,6 +2,8 @@
 
 #include "core/localized.h"
 
+#include <QtCore/QStringBuilder>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace zelvor {
@@ -33,9 +35,9 @@ QString ProductDocument::titleOpener() const
     return localized("Product Document '");
 }
 
-QString ProductDocument::journalName() const
+QString ProductDocument::journalNameFrom(const QString& start) const
 {
-    return titleStart() + u"' #"_s + QString::number(docNumber);
+    return start % u"' #"_s % QString::number(docNumber);
 }
 
 QVariant ProductDocument::valueForIdentifier(QStringView key) const

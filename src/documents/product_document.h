@@ -44,7 +44,7 @@ public:
     // the two orders differ and stay so.
     Decimal subtotal() const;
 
-    QString journalName() const override;
+    QString journalNameFrom(const QString& start) const override;
     QVariant valueForIdentifier(QStringView key) const override;
     static const TableInfo& table();
 

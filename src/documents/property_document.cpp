@@ -2,6 +2,8 @@
 
 #include "core/localized.h"
 
+#include <QtCore/QStringBuilder>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace zelvor {
@@ -17,9 +19,9 @@ QString PropertyDocument::titleOpener() const
     return localized("Property Document '");
 }
 
-QString PropertyDocument::journalName() const
+QString PropertyDocument::journalNameFrom(const QString& start) const
 {
-    return titleStart() + u"' #"_s + QString::number(docNumber) + u" ("_s + property->name + u')';
+    return start % u"' #"_s % QString::number(docNumber) % u" ("_s % property->name % u')';
 }
 
 QVariant PropertyDocument::valueForIdentifier(QStringView key) const

@@ -17,7 +17,7 @@ public:
 
     void insertProperty(const std::shared_ptr<Property>& record);
 
-    QString journalName() const override;
+    QString journalNameFrom(const QString& start) const override;
     QVariant valueForIdentifier(QStringView key) const override;
     static const TableInfo& table();
 

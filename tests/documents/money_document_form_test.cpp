@@ -1,3 +1,5 @@
+#include "catalogs/contragent_select_view.h"
+#include "catalogs/expend_select_view.h"
 #include "support/document_forms.h"
 
 #include <limits>
@@ -83,6 +85,71 @@ TEST(MoneyDocumentForm, popUpsHoldOnlyWhatIsChosenUntilTheyAreAskedFor)
     books.appDelegate.notifications.post(NotificationName::ManagerChangedNotification);
     EXPECT_EQ(form->mainView.accountFromSelect.items().size(), 3u);
     EXPECT_EQ(form->mainView.employeeSelect.items().size(), 1u);
+}
+
+TEST(MoneyDocumentForm, costsTheSameHoweverLargeTheCatalogsAre)
+{
+    Books books;
+    const auto ann = books.contragent(u"Ann"_s);
+    const auto cash = books.account(u"Cash"_s, 0, true);
+    const auto statementsOfADocument = [&] {
+        const qint64 before = books.db.statementCount();
+        const auto form = newMoneyForm(books, MoneyFromContragent);
+        EXPECT_TRUE(form->setContragentFromID(ann->id));
+        enter(form->mainView.docSum, 10);
+        EXPECT_TRUE(form->confirmDoc());
+        return books.db.statementCount() - before;
+    };
+    statementsOfADocument();
+    const qint64 small = statementsOfADocument();
+    for (int i = 0; i < 20; ++i) {
+        books.contragent(u"Other"_s);
+        books.account(u"Other"_s);
+        books.employee(u"Other"_s);
+        books.expend(u"Other"_s);
+    }
+    EXPECT_EQ(statementsOfADocument(), small);
+    EXPECT_LE(small, 30);
+}
+
+TEST(MoneyDocumentForm, partiesAreChosenFromThePopovers)
+{
+    Books books;
+    const auto ann = books.contragent(u"Ann"_s, 40);
+    const auto rent = books.expend(u"Rent"_s);
+    const auto payment = newMoneyForm(books, MoneyToContragent);
+    payment->selectContragent();
+    ContragentSelectView& contragents = payment->contragentSelectView();
+    EXPECT_TRUE(contragents.selectPopover.isOpen());
+    contragents.doubleAction(contragents.child(nullptr, 0));
+    EXPECT_EQ(payment->document->contragentID, ann->id);
+    EXPECT_EQ(payment->contragentBalance.real(), 40);
+    payment->selectExpend();
+    EXPECT_FALSE(payment->expendSelectView().selectPopover.isOpen()) << "the type uses none";
+
+    const auto spending = newMoneyForm(books, MoneyToExpend);
+    spending->selectExpend();
+    ExpendSelectView& expends = spending->expendSelectView();
+    EXPECT_TRUE(expends.selectPopover.isOpen());
+    expends.doubleAction(expends.child(nullptr, 0));
+    EXPECT_EQ(spending->document->expendID, rent->id);
+    EXPECT_EQ(spending->mainView.expendField.text(), u"Rent"_s);
+    spending->clearExpend();
+    EXPECT_EQ(spending->document->expendID, 0);
+}
+
+TEST(MoneyDocumentForm, aChangedPartyIsShownAnew)
+{
+    Books books;
+    const auto ann = books.contragent(u"Ann"_s, 40);
+    const auto form = newMoneyForm(books, MoneyToContragent);
+    form->setContragentFromID(ann->id);
+    ann->name = u"Anna"_s;
+    ann->setBalance(50);
+    books.store(*ann);
+    books.appDelegate.notifications.post(NotificationName::ContragentChangedNotification);
+    EXPECT_EQ(form->mainView.contragentField.text(), u"Anna"_s);
+    EXPECT_EQ(form->contragentBalance.real(), 50);
 }
 
 TEST(MoneyDocumentForm, aHiddenOrMissingRecordCannotBeChosen)
