@@ -99,19 +99,14 @@ def show_sale(figures, sizes):
     return (spread > SALE_SPREAD) + (syncs > SALE_SYNCS)
 
 
-def peak_memory(command, stdin=None):
+def peak_memory(build, command, stdin, accepted):
     """Runs the command; its largest resident set in MB."""
-    process = subprocess.Popen(command, stdin=subprocess.PIPE if stdin else subprocess.DEVNULL,
-                               stdout=subprocess.DEVNULL, stderr=subprocess.PIPE)
-    if stdin:
-        process.stdin.write(stdin.encode())
-        process.stdin.close()
-    message = process.stderr.read().decode()
-    _, status, usage = os.wait4(process.pid, 0)
-    process.returncode = os.waitstatus_to_exitcode(status)
-    if process.returncode != 0:
-        sys.exit(f"{' '.join(command)}: exit {process.returncode}: {message}")
-    return usage.ru_maxrss / 1024
+    launcher = [str(build / "bench/zelvor-baseline"), "memory"]
+    done = subprocess.run(launcher + command, input=stdin or "", stdout=subprocess.DEVNULL, stderr=subprocess.PIPE,
+                          text=True)
+    if done.returncode not in accepted:
+        sys.exit(f"{' '.join(command)}: exit {done.returncode}: {done.stderr}")
+    return int(done.stderr.split()[-1]) / 1024
 
 
 def show_memory(build, size, folder):
@@ -138,7 +133,8 @@ def show_memory(build, size, folder):
     print(f"\n{'command at ' + format(size, ',') + ' documents':40}{'MB':>8}")
     missed = 0
     for name, (command, stdin) in commands.items():
-        megabytes = peak_memory(command, stdin)
+        # The generated business has balances that no document made: a check says so.
+        megabytes = peak_memory(build, command, stdin, (0, 1) if name == "check" else (0,))
         missed += megabytes > MEMORY_LIMIT_MB
         print(f"{name:40}{megabytes:>8.1f}{'' if megabytes <= MEMORY_LIMIT_MB else '  MISSED'}")
     return missed
@@ -152,7 +148,7 @@ def main():
     options = parser.parse_args()
     sizes = [int(part) for part in options.sizes.split(",")]
     # Beside the build, on the disk that a business would lie on; the system's folder may be memory.
-    with tempfile.TemporaryDirectory(dir=options.build) as folder:
+    with tempfile.TemporaryDirectory(dir=options.build.resolve()) as folder:
         figures = run_benchmarks(options.build.resolve(), sizes, options.rounds, folder)
         missed = show_times(figures, sizes) + show_sale(figures, sizes)
         missed += show_memory(options.build.resolve(), max(sizes), folder)

@@ -1,11 +1,16 @@
 /* zelvor-baseline TASK FILE [ROUNDS]: runs one task and prints the CPU milliseconds of its median round.
+ * zelvor-baseline memory COMMAND...: runs the command and tells on standard error, last line, the largest
+ * resident set of it in kB. A child's figure starts at the size of who forked it: so a small C program asks.
  * zelvor-baseline fill FILE DOCUMENTS: fills a new, empty project with the generated business. */
 #include "baseline.h"
 
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
 #include <time.h>
+#include <unistd.h>
 
 typedef void task_function(baseline* db, const char* path);
 
@@ -109,8 +114,25 @@ static int measure(task_function* task, const char* path, int rounds)
     return 0;
 }
 
+static int memory(char** command)
+{
+    pid_t child = fork();
+    if (child == 0) {
+        execvp(command[0], command);
+        _exit(127);
+    }
+    int status = 0;
+    struct rusage usage;
+    if (child < 0 || wait4(child, &status, 0, &usage) != child)
+        return 2;
+    fprintf(stderr, "%ld\n", usage.ru_maxrss);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 2;
+}
+
 int main(int argc, char** argv)
 {
+    if (argc > 2 && strcmp(argv[1], "memory") == 0)
+        return memory(argv + 2);
     if (argc == 4 && strcmp(argv[1], "fill") == 0) {
         baseline_fill(argv[2], atol(argv[3]));
         return 0;
@@ -118,7 +140,8 @@ int main(int argc, char** argv)
     for (size_t i = 0; argc >= 3 && i < sizeof tasks / sizeof *tasks; ++i)
         if (strcmp(argv[1], tasks[i].name) == 0)
             return measure(tasks[i].run, argv[2], argc > 3 && atoi(argv[3]) > 0 ? atoi(argv[3]) : 9);
-    fprintf(stderr, "usage: zelvor-baseline TASK FILE [ROUNDS] | fill FILE DOCUMENTS\ntasks:");
+    fprintf(stderr,
+            "usage: zelvor-baseline TASK FILE [ROUNDS] | fill FILE DOCUMENTS | memory COMMAND...\ntasks:");
     for (size_t i = 0; i < sizeof tasks / sizeof *tasks; ++i)
         fprintf(stderr, " %s", tasks[i].name);
     fputc('\n', stderr);
