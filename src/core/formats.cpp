@@ -1,5 +1,6 @@
 #include "core/formats.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>

@@ -91,6 +91,16 @@ TEST(DocType, theMenuGroupHoldsEveryCaseBehindItsHeader)
     EXPECT_EQ(docTypeMenuGroup(DocType::CurrencyCatalog), DocType::Catalogs);
 }
 
+TEST(DocType, aMenuHeaderBearsTheIconOfItsGroup)
+{
+    EXPECT_EQ(docTypeImage(DocType::Money), u"money"_s);
+    EXPECT_EQ(docTypeImage(DocType::Products), u"product"_s);
+    EXPECT_EQ(docTypeImage(DocType::PropertyGroup), u"property"_s);
+    EXPECT_EQ(docTypeImage(DocType::Reports), u"report"_s);
+    EXPECT_EQ(docTypeImage(DocType::Organization), u"company"_s);
+    EXPECT_EQ(docTypeImage(DocType::Catalogs), u"catalog"_s);
+}
+
 TEST(DocType, theMenuLookupKeepsItsTwoGapsAndKnowsNoCatalogs)
 {
     for (const DocType type : allTypes()) {
