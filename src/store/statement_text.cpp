@@ -1,7 +1,6 @@
 #include "store/statement_text.h"
 
 #include <algorithm>
-
 #include <cctype>
 
 namespace zelvor {
@@ -105,6 +104,14 @@ std::size_t wordEnd(std::string_view text, std::size_t from)
     return from;
 }
 
+// AND binds tighter than OR, so alternatives beside one are not all that it joins.
+bool standsBesideAnd(std::string_view before, std::string_view behind)
+{
+    before = before.substr(0, before.find_last_not_of(' ') + 1);
+    behind = behind.substr(std::min(behind.find_first_not_of(' '), behind.size()));
+    return before.ends_with("AND") || before.ends_with("NOT") || behind.starts_with("AND");
+}
+
 // "id=? OR id=? OR id=?" written as "id IN (?,?,?)"; the marks keep their order.
 std::string withFoldedAlternatives(std::string_view text)
 {
@@ -119,10 +126,15 @@ std::string withFoldedAlternatives(std::string_view text)
             place += name.empty() ? 1 : name.size();
             continue;
         }
-        folded.append(name).append(" IN (?");
-        for (place = end + 2; text.substr(place).starts_with(alternative); place += alternative.size())
-            folded.append(",?");
-        folded.append(")");
+        std::string list = name + " IN (?";
+        std::size_t listEnd = end + 2;
+        for (; text.substr(listEnd).starts_with(alternative); listEnd += alternative.size())
+            list.append(",?");
+        if (standsBesideAnd(folded, text.substr(listEnd)))
+            folded.append(text.substr(place, listEnd - place));
+        else
+            folded.append(list).append(")");
+        place = listEnd;
     }
     return folded;
 }

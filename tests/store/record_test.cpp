@@ -119,6 +119,22 @@ TEST_F(Records, aTailMayNameThousandsOfRecords)
     EXPECT_EQ(found[0]->id, 3000);
 }
 
+TEST_F(Records, alternativesBesideAnAndKeepTheirMeaningInALongText)
+{
+    for (int i = 0; i < 4; ++i) {
+        Unit unit;
+        connector.insert(unit);
+    }
+    const std::string longText = "name<>'" + std::string(5000, 'x') + "'";
+    const auto count = [&](const std::string& tail, std::initializer_list<Parameter> params) {
+        return connector.freeSQL<Unit>(tail, params).size();
+    };
+    // The AND joins only its neighbour.
+    EXPECT_EQ(count("WHERE " + longText + " AND name='no' AND id=? OR id=? OR id=?", {1, 2, 3}), 2U);
+    EXPECT_EQ(count("WHERE id=? OR id=? OR id=? AND name='no' AND " + longText, {1, 2, 3}), 2U);
+    EXPECT_EQ(count("WHERE NOT id=? OR id=? AND " + longText, {1, 1}), 4U);
+}
+
 TEST_F(Records, updateAndRemoveAnswerWhetherTheRowWasThere)
 {
     Unit unit;
