@@ -21,7 +21,7 @@ bool writeRowCounts(Connector& connector, JsonWriter& json)
     json.key(u"tables"_s).beginObject();
     for (const TableInfo* table : projectTables()) {
         qint64 count = -1;
-        connector.scan("SELECT count(*) FROM " + std::string(table->name), {},
+        connector.scan("SELECT count(id) FROM " + std::string(table->name), {},
                        [&](const Statement& row) { count = row.integer(0); });
         if (count < 0)
             return false;

@@ -211,6 +211,12 @@ void Connector::close()
     m_impl->drop();
 }
 
+void Connector::setPatience(int milliseconds)
+{
+    if (isOpen())
+        sqlite3_busy_timeout(m_impl->database.get(), milliseconds);
+}
+
 bool Connector::isOpen() const
 {
     return m_impl->database != nullptr;

@@ -41,6 +41,8 @@ public:
     virtual bool create(const QString& path);
     virtual bool publish();
     virtual void close();
+    // How long the open project waits for another program's lock, in milliseconds; five seconds unless set.
+    void setPatience(int milliseconds);
     bool isOpen() const;
     bool isReadOnly() const;
     QString path() const;

@@ -3,6 +3,7 @@
 #include "core/localized.h"
 #include "store/plain_schema.h"
 #include "store/project_file.h"
+#include "store/read_bound.h"
 
 #include <sqlite3.h>
 
@@ -11,8 +12,6 @@
 namespace zelvor {
 
 namespace {
-
-constexpr int busyMilliseconds = 5000;
 
 bool run(sqlite3* database, const char* text)
 {
@@ -41,7 +40,7 @@ void distrust(sqlite3* database)
     sqlite3_db_config(database, SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION, 0, nullptr);
     sqlite3_db_config(database, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     sqlite3_limit(database, SQLITE_LIMIT_ATTACHED, 0);
-    sqlite3_busy_timeout(database, busyMilliseconds);
+    sqlite3_busy_timeout(database, defaultPatience);
 }
 
 bool configure(sqlite3* database, OpenMode mode)
@@ -65,6 +64,7 @@ QString problemText(sqlite3* database)
     case SQLITE_NOTADB:
         return localized("it is no project file");
     case SQLITE_CORRUPT:
+    case SQLITE_INTERRUPT: // it holds more than it can
         return localized("it is damaged");
     case SQLITE_BUSY:
         return localized("another program is writing to it");
@@ -90,7 +90,7 @@ bool rollBackLeftJournal(const QString& path)
     if (!writer)
         return false;
     distrust(writer.get());
-    return run(writer.get(), "SELECT count(*) FROM sqlite_schema");
+    return run(writer.get(), "PRAGMA schema_version");
 }
 
 OpenedDatabase openOnce(const QString& path, OpenMode mode, bool& leftJournal)
@@ -103,8 +103,11 @@ OpenedDatabase openOnce(const QString& path, OpenMode mode, bool& leftJournal)
     }
     distrust(result.handle.get());
     std::optional<QString> problem;
-    if (configure(result.handle.get(), mode))
-        problem = schemaProblem(result.handle.get(), mode != OpenMode::Unfinished);
+    {
+        const ReadBound bound(result.handle.get(), ReadBound::Work::Opening);
+        if (configure(result.handle.get(), mode))
+            problem = schemaProblem(result.handle.get(), mode != OpenMode::Unfinished);
+    }
     if (problem && problem->isEmpty())
         return result;
     leftJournal = !problem && needsRollback(result.handle.get());
@@ -138,12 +141,7 @@ QString copyDatabase(sqlite3* from, const QString& path)
     sqlite3_backup* backup = sqlite3_backup_init(to.get(), "main", from, "main");
     if (!backup)
         return QString::fromUtf8(sqlite3_errmsg(to.get()));
-    int result = sqlite3_backup_step(backup, -1);
-    for (int waited = 0; (result == SQLITE_BUSY || result == SQLITE_LOCKED) && waited < busyMilliseconds;
-         waited += 10) {
-        sqlite3_sleep(10);
-        result = sqlite3_backup_step(backup, -1);
-    }
+    const int result = sqlite3_backup_step(backup, -1); // waits for a writer as every read does
     sqlite3_backup_finish(backup);
     return result == SQLITE_DONE ? QString() : QString::fromUtf8(sqlite3_errstr(result));
 }

@@ -25,6 +25,9 @@ struct OpenedDatabase {
     QString problem;
 };
 
+// How long a connection waits for a lock, in milliseconds.
+inline constexpr int defaultPatience = 5000;
+
 // Marks the files of this program in their header.
 inline constexpr int projectApplicationID = 0x5A4C5652;
 

@@ -84,11 +84,6 @@ bool startsWith(const std::vector<std::string>& words, std::initializer_list<con
     return words.size() >= beginning.size() && std::equal(beginning.begin(), beginning.end(), words.begin());
 }
 
-bool isOwnTable(std::string_view name)
-{
-    return name == "sqlite_sequence" || name.starts_with("sqlite_stat");
-}
-
 // The problem of one line of the schema, or an empty text.
 QString objectProblem(sqlite3_stmt* row)
 {
@@ -99,7 +94,7 @@ QString objectProblem(sqlite3_stmt* row)
     // Indexes that SQLite makes by itself have no text.
     if (stored && type == "index" && (text.empty() || isPlainIndex(text)))
         return {};
-    if (stored && type == "table" && (isOwnTable(name) || isPlainTable(text)))
+    if (stored && type == "table" && isPlainTable(text))
         return {};
     const QString shown =
         QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())).left(60).simplified();

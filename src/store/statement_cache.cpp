@@ -30,6 +30,8 @@ Query::Query(StatementCache& cache, sqlite3_stmt* handle, Entry* entry)
 
 Query::~Query()
 {
+    if (m_started)
+        --m_cache.m_running;
     if (m_entry) {
         sqlite3_reset(m_handle);
         m_entry->inUse = false;
@@ -60,10 +62,14 @@ bool Query::next()
     if (!m_started) {
         m_started = true;
         ++m_cache.m_statementCount;
+        if (m_cache.m_running++ == 0)
+            m_cache.m_bound->restart();
     }
     const int result = sqlite3_step(m_handle);
-    m_failed = result != SQLITE_ROW && result != SQLITE_DONE;
-    return result == SQLITE_ROW;
+    if (result == SQLITE_ROW && m_cache.m_bound->allowsRows(++m_rows))
+        return true;
+    m_failed = result != SQLITE_DONE;
+    return false;
 }
 
 std::size_t StatementCache::Hash::operator()(const KeyView& key) const
@@ -72,12 +78,19 @@ std::size_t StatementCache::Hash::operator()(const KeyView& key) const
     return std::hash<std::string_view>{}(key.text) ^ (place * 0x9E3779B97F4A7C15U);
 }
 
+void StatementCache::attach(sqlite3* database)
+{
+    m_database = database;
+    m_bound.emplace(database, ReadBound::Work::Reading);
+}
+
 void StatementCache::detach()
 {
     for (auto& [key, entry] : m_entries)
         sqlite3_finalize(entry.handle);
     m_entries.clear();
     m_freeEntries = 0;
+    m_bound.reset();
     m_database = nullptr;
 }
 

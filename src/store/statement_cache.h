@@ -1,9 +1,11 @@
 #pragma once
 
+#include "store/read_bound.h"
 #include "store/statement.h"
 #include "store/table_info.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -48,7 +50,7 @@ public:
     int columnCount() const;
     // True when a row stands to be read.
     bool next();
-    // True when the run ended by an error.
+    // True when the run ended by an error, or gave more rows than the file can hold.
     bool failed() const { return m_failed; }
     // For statements without rows: true when it was carried out.
     bool run() { return !next() && !failed(); }
@@ -67,6 +69,7 @@ private:
     sqlite3_stmt* m_handle;
     Entry* m_entry;
     Statement m_statement;
+    qint64 m_rows = 0;
     bool m_started = false;
     bool m_failed;
 };
@@ -80,7 +83,7 @@ public:
     StatementCache& operator=(const StatementCache&) = delete;
     ~StatementCache() { detach(); }
 
-    void attach(sqlite3* database) { m_database = database; }
+    void attach(sqlite3* database);
     // Finalises everything; must come before the database closes.
     void detach();
     bool isAttached() const { return m_database != nullptr; }
@@ -118,6 +121,8 @@ private:
     void makeRoom();
 
     sqlite3* m_database = nullptr;
+    std::optional<ReadBound> m_bound;
+    int m_running = 0; // runs under way, one inside the other
     std::unordered_map<Key, Query::Entry, Hash, Equal> m_entries;
     std::size_t m_freeEntries = 0;
     std::uint64_t m_uses = 0;

@@ -5,7 +5,9 @@
 #include "test_records.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>
@@ -70,10 +72,57 @@ protected:
         Unit unit;
         return connector.insert(unit);
     }
+    // The file with a tree that never ends in place of a table or the schema: ten pages, each of which names
+    // the next one 500 times, above the table's own page of records.
+    static QByteArray withEndlessTree(QByteArray file, qint64 root);
+    qint64 rootOf(const char* table)
+    {
+        qint64 root = 0;
+        connector.scan("SELECT rootpage FROM sqlite_schema WHERE name=?", {QString::fromUtf8(table)},
+                       [&](const Statement& row) { root = row.integer(0); });
+        return root;
+    }
 
     TestProgram program;
     Connector& connector = program.appDelegate.connector;
 };
+
+constexpr qsizetype pageSize = 4096;
+
+QByteArray bigEndian(quint64 value, int bytes)
+{
+    QByteArray result;
+    while (bytes-- > 0)
+        result.append(static_cast<char>(value >> (8 * bytes)));
+    return result;
+}
+
+// An inner page of a table with 500 cells, all of them the same one, which leads to `child`.
+QByteArray innerPage(qsizetype child)
+{
+    constexpr qsizetype cell = pageSize - 8;
+    const auto number = static_cast<quint64>(child);
+    QByteArray page = bigEndian(5, 1) + bigEndian(0, 2) + bigEndian(500, 2) + bigEndian(cell, 2) +
+                      bigEndian(0, 1) + bigEndian(number, 4) + bigEndian(cell, 2).repeated(500);
+    page.append(pageSize - page.size(), '\0');
+    return page.replace(cell, 5, bigEndian(number, 4) + bigEndian(1, 1));
+}
+
+QByteArray ProjectFiles::withEndlessTree(QByteArray file, qint64 root)
+{
+    const qsizetype start = (root - 1) * pageSize;
+    const qsizetype header = root == 1 ? 100 : 0; // the file's own header stands before the first page's
+    QByteArray records = file.mid(start, pageSize);
+    records.remove(0, header).insert(600, header, '\0');
+    for (int level = 0; level < 10; ++level)
+        file.append(innerPage(file.size() / pageSize + 2));
+    file.append(records);
+    QByteArray top = innerPage(file.size() / pageSize - 10);
+    // The cell stands at the end of the page, so the header moves and the cell does not.
+    top.insert(0, file.mid(start, header)).remove(3000, header);
+    file.replace(start, pageSize, top);
+    return file.replace(28, 4, bigEndian(static_cast<quint64>(file.size() / pageSize), 4));
+}
 
 } // namespace
 
@@ -433,7 +482,9 @@ TEST_F(ProjectFiles, aDamagedFileNeverCrashesOrHangs)
     connector.insert(goods);
     connector.close();
     const QByteArray sound = contentOf(path());
-    const QString broken = path(u"broken.pdb"_s);
+    // In memory where that can be had: the lock of each opening for writing is brought to the disk.
+    const QTemporaryDir memory(u"/dev/shm/zelvor-XXXXXX"_s);
+    const QString broken = memory.isValid() ? memory.filePath(u"broken.pdb"_s) : path(u"broken.pdb"_s);
     const auto tryIt = [&](const QByteArray& content) {
         write(broken, content);
         Connector other;
@@ -463,6 +514,32 @@ TEST_F(ProjectFiles, aDamagedFileNeverCrashesOrHangs)
     }
 }
 
+TEST_F(ProjectFiles, aTreeOfPagesThatNeverEndsEndsEveryRead)
+{
+    add();
+    Goods goods;
+    goods.unitID = 1;
+    connector.insert(goods);
+    const qint64 unitRoot = rootOf("unit");
+    connector.close();
+    const QByteArray sound = contentOf(path());
+    const QString endless = path(u"endless.pdb"_s);
+    write(endless, withEndlessTree(sound, unitRoot));
+    Connector other;
+    for (const Access access : {Access::ReadOnly, Access::ReadWrite}) {
+        ASSERT_TRUE(other.open(endless, access)) << other.openError().toStdString();
+        EXPECT_TRUE(other.freeSQL<Unit>().empty());
+        EXPECT_FALSE(other.scan("SELECT count(id) FROM unit", {}, [](const Statement&) {}));
+        EXPECT_FALSE(other.scan("SELECT id FROM unit", {}, [](const Statement&) {}));
+        EXPECT_FALSE(other.any<Unit>("WHERE name=?", {u"none"_s}));
+        EXPECT_FALSE(other.integrityFindings().isEmpty());
+        EXPECT_EQ(other.freeSQL<Goods>({}, std::span<const Parameter>{}, Fill::Nothing).size(), 1U);
+    }
+    other.close();
+    write(endless, withEndlessTree(sound, 1));
+    expectRefused(endless, u"damaged"_s);
+}
+
 TEST_F(ProjectFiles, aTruncatedFileIsRefused)
 {
     connector.close();
@@ -487,6 +564,22 @@ TEST_F(ProjectFiles, aCopyIsConsistentWhileOthersHaveTheProjectOpen)
     EXPECT_EQ(copy.freeSQL<Unit>().size(), 1U);
     EXPECT_TRUE(copy.integrityFindings().isEmpty());
     EXPECT_EQ(filesInFolder().filter(u".new"_s), QStringList());
+}
+
+TEST_F(ProjectFiles, aCopyWaitsForAWriterNoLongerThanARead)
+{
+    sqlite3* writer = nullptr;
+    sqlite3_open(path().toUtf8().constData(), &writer);
+    ASSERT_EQ(sqlite3_exec(writer, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
+    connector.setPatience(50);
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_TRUE(connector.backup(path(u"copy.pdb"_s)).contains(u"locked"_s));
+    EXPECT_GE(timer.elapsed(), 50);
+    EXPECT_LT(timer.elapsed(), 5000);
+    sqlite3_close(writer);
+    EXPECT_FALSE(QFile::exists(path(u"copy.pdb"_s)));
+    EXPECT_EQ(connector.backup(path(u"copy.pdb"_s)), QString());
 }
 
 TEST_F(ProjectFiles, nothingAcknowledgedIsLostByKills)

@@ -5,6 +5,9 @@
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
+#include <chrono>
+#include <thread>
+
 namespace zelvor {
 
 using namespace Qt::Literals::StringLiterals;
@@ -65,9 +68,10 @@ TEST_F(Transactions, onlyTheThreeWordsAreTaken)
 
 TEST_F(Transactions, withoutTheLockNothingIsWrittenUntilTheEnd)
 {
+    connector.setPatience(20);
     OtherProgram other(connector.path());
     ASSERT_TRUE(other.run("BEGIN IMMEDIATE"));
-    EXPECT_FALSE(connector.execute("BEGIN")); // after the five seconds of patience
+    EXPECT_FALSE(connector.execute("BEGIN"));
     EXPECT_EQ(add(), 0);
     ASSERT_TRUE(other.run("COMMIT"));
     EXPECT_EQ(add(), 0);
@@ -84,6 +88,7 @@ TEST_F(Transactions, withoutTheLockNothingIsWrittenUntilTheEnd)
 TEST_F(Transactions, aReaderInTheWayMakesTheCommitFailAndTakesItBack)
 {
     add();
+    connector.setPatience(20);
     OtherProgram reader(connector.path());
     ASSERT_TRUE(reader.run("BEGIN; SELECT * FROM unit"));
     UserWrite write(connector);
@@ -92,10 +97,28 @@ TEST_F(Transactions, aReaderInTheWayMakesTheCommitFailAndTakesItBack)
     EXPECT_FALSE(connector.inTransaction());
     EXPECT_EQ(program.dialogs.alerts.size(), 1U);
     EXPECT_TRUE(program.dialogs.alerts.at(0).informativeText.contains(u"locked"_s));
-    EXPECT_TRUE(program.posted.has(NotificationName::AccountBalanceChangedNotification));
+    for (const NotificationName name :
+         {NotificationName::AccountBalanceChangedNotification,
+          NotificationName::DocWithContragentChangedNotification,
+          NotificationName::ExpendDocChangedNotification, NotificationName::ProductChangedNotificationForSelf,
+          NotificationName::MeasurementsChangedNotificationForSelf})
+        EXPECT_TRUE(program.posted.has(name)) << notificationNameText(name).toStdString();
     reader.run("COMMIT");
     EXPECT_EQ(count(), 1U);
     EXPECT_EQ(add(), 1);
+}
+
+TEST_F(Transactions, aWriteWaitsForAnotherProgramToFinish)
+{
+    OtherProgram other(connector.path());
+    ASSERT_TRUE(other.run("BEGIN IMMEDIATE"));
+    std::thread otherWork([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(30));
+        other.run("COMMIT");
+    });
+    EXPECT_TRUE(connector.execute("BEGIN"));
+    otherWork.join();
+    EXPECT_TRUE(connector.execute("COMMIT"));
 }
 
 TEST_F(Transactions, aFailedStepTakesEverythingBack)
