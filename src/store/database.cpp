@@ -93,6 +93,18 @@ bool rollBackLeftJournal(const QString& path)
     return run(writer.get(), "PRAGMA schema_version");
 }
 
+// Read through SQLite's own handle, before SQLite reads anything: its first read in that mode makes two files
+// beside the project, and a look leaves no trace.
+bool isInWriteAheadMode(sqlite3* database)
+{
+    constexpr sqlite3_int64 placeOfReadVersion = 19;
+    sqlite3_file* file = nullptr;
+    unsigned char version = 0;
+    return sqlite3_file_control(database, "main", SQLITE_FCNTL_FILE_POINTER, &file) == SQLITE_OK &&
+           file->pMethods && file->pMethods->xRead(file, &version, 1, placeOfReadVersion) == SQLITE_OK &&
+           version == 2;
+}
+
 OpenedDatabase openOnce(const QString& path, OpenMode mode, bool& leftJournal)
 {
     OpenedDatabase result;
@@ -102,6 +114,12 @@ OpenedDatabase openOnce(const QString& path, OpenMode mode, bool& leftJournal)
         return result;
     }
     distrust(result.handle.get());
+    if (mode == OpenMode::Look && isInWriteAheadMode(result.handle.get())) {
+        result.problem = localized("another program has put it into write-ahead mode; opening it for "
+                                   "writing brings it back");
+        result.handle.reset();
+        return result;
+    }
     std::optional<QString> problem;
     {
         const ReadBound bound(result.handle.get(), ReadBound::Work::Opening);

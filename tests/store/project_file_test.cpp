@@ -270,10 +270,14 @@ TEST_F(ProjectFiles, theConnectionIsSetToKeepTheBooksSafe)
     EXPECT_EQ(setting("application_id"), QString::number(0x5A4C5652));
 }
 
-TEST_F(ProjectFiles, aFileInWriteAheadModeIsBroughtBack)
+TEST_F(ProjectFiles, aFileInWriteAheadModeIsBroughtBackByAWriterAndNotByALook)
 {
     connector.close();
     ASSERT_TRUE(run(path(), "PRAGMA journal_mode=WAL; INSERT INTO unit(name) VALUES('x')"));
+    const QStringList files = filesInFolder();
+    EXPECT_FALSE(connector.open(path(), Access::ReadOnly));
+    EXPECT_TRUE(connector.openError().contains(u"write-ahead"_s)) << connector.openError().toStdString();
+    EXPECT_EQ(filesInFolder(), files);
     ASSERT_TRUE(connector.open(path()));
     EXPECT_EQ(connector.freeSQL<Unit>().size(), 1U);
     EXPECT_EQ(contentOf(path()).at(18), 1);
