@@ -211,7 +211,7 @@ bool DocumentJournalViewController::deleteDocument()
 {
     const std::shared_ptr<DocumentModel> document = std::exchange(docToDelete, nullptr);
     deleteDocumentMenuItem.setEnabled(false);
-    if (!document || document->confirmed)
+    if (!document)
         return false;
     const bool isProduct = dynamic_cast<ProductDocument*>(document.get()) != nullptr;
     const bool isMoney = dynamic_cast<MoneyDocument*>(document.get()) != nullptr;

@@ -230,8 +230,9 @@ bool MoneyDocumentViewController::deleteDoc()
         return false;
     }
     document->id = 0; // what is left on the form would be a new document
-    closeDoc();
+    // Closing may take this form away, so it is told before.
     appDelegate.notifications.post(NotificationName::MoneyDocChangedNotification, this);
+    closeDoc();
     return true;
 }
 
@@ -244,8 +245,10 @@ void MoneyDocumentViewController::showRefusal()
 
 void MoneyDocumentViewController::closeDoc()
 {
-    if (onClose)
-        onClose();
+    // A copy: closing may take this form, and the callback with it, away.
+    const std::function<void()> close = onClose;
+    if (close)
+        close();
 }
 
 void MoneyDocumentViewController::updateInterface()

@@ -241,8 +241,10 @@ bool PropertyDocumentViewController::setManagerFromID(qint64 managerID)
 
 void PropertyDocumentViewController::closeDoc()
 {
-    if (onClose)
-        onClose();
+    // A copy: closing may take this form, and the callback with it, away.
+    const std::function<void()> close = onClose;
+    if (close)
+        close();
 }
 
 void PropertyDocumentViewController::updateInterface()
