@@ -83,13 +83,13 @@ public:
         row.innerAmount = sold.amount;
         row.innerBaseSum = sold.baseSum;
         row.innerPriceSum = sold.priceSum;
-        const auto fact = std::ranges::lower_bound(m_facts, sold.productID, {}, &Fact::id);
-        if (fact == m_facts.end() || fact->id != sold.productID) {
+        const Fact* fact = find(sold.productID);
+        if (!fact) {
             row.innerPackAmount = Decimal::nan(); // the column of a record that is not there
             return row;
         }
-        row.name = fact->name;
-        row.unit = fact->unit;
+        row.name = QString(fact->name);
+        row.unit = QString(fact->unit);
         row.parentID = fact->groupID;
         row.innerPackAmount = fact->packAmount;
         return row;
@@ -103,6 +103,16 @@ private:
         qint64 groupID;
         Decimal packAmount;
     };
+    const Fact* find(qint64 id) const
+    {
+        // Records are never deleted, so nearly every catalog has its ids without a gap.
+        const auto guess = static_cast<quint64>(id - 1);
+        if (guess < m_facts.size() && m_facts[guess].id == id)
+            return &m_facts[guess];
+        const auto place = std::ranges::lower_bound(m_facts, id, {}, &Fact::id);
+        return place != m_facts.end() && place->id == id ? &*place : nullptr;
+    }
+
     std::vector<Fact> m_facts;
 };
 
@@ -138,8 +148,8 @@ public:
         const bool read = scanSales(connector, query, [this](qint64 contragentID, const SoldRow& row) {
             if (m_keepsAll)
                 m_all.add(row);
-            if (const auto holder = m_holders.find(contragentID); holder != m_holders.end())
-                m_rows[holder->second].push_back(row);
+            if (std::vector<SoldRow>* rows = rowsOf(contragentID))
+                rows->push_back(row);
         });
         if (!read) { // no half of a report
             m_all.clear();
@@ -158,6 +168,19 @@ public:
     std::vector<SoldProduct> all() { return m_all.products(); }
 
 private:
+    // The rows of a document come one after the other and have one counterparty.
+    std::vector<SoldRow>* rowsOf(qint64 contragentID)
+    {
+        if (contragentID != m_lastContragentID) {
+            const auto holder = m_holders.find(contragentID);
+            m_lastRows = holder != m_holders.end() ? &m_rows[holder->second] : nullptr;
+            m_lastContragentID = contragentID;
+        }
+        return m_lastRows;
+    }
+
+    qint64 m_lastContragentID = 0; // nobody's sales are in no list
+    std::vector<SoldRow>* m_lastRows = nullptr;
     std::unordered_map<qint64, std::size_t> m_holders;
     std::vector<std::vector<SoldRow>> m_rows;
     SoldSums m_scratch;

@@ -47,8 +47,12 @@ void PeriodSellReportView::setRows(PeriodSellReportRows rows)
 void PeriodSellReportView::placeRows()
 {
     std::unordered_map<qint64, PeriodSellReportRow*> parents; // few, however many rows there are
-    for (const PeriodSellReportRow* row : m_rows.inOrder())
-        parents.try_emplace(row->parentID, nullptr);
+    qint64 lastID = 0;
+    for (const PeriodSellReportRow* row : m_rows.inOrder()) {
+        if (row->parentID != lastID)
+            parents.try_emplace(row->parentID, nullptr);
+        lastID = row->parentID;
+    }
     parents.erase(0);
     for (PeriodSellReportRow* row : m_rows.inOrder()) {
         const auto wanted = parents.find(row->id);
