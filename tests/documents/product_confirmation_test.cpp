@@ -398,6 +398,24 @@ TEST(AverageCost, theFirstPurchaseSetsTheCostWithItsShareOfShipment)
     EXPECT_EQ(shop.read(*shop.cup)->baseCost(), 2);
 }
 
+TEST(AverageCost, theShareOfShipmentKeepsItsFractions)
+{
+    TeaShop shop;
+    const auto form = shop.form(DocType::BuyProduct);
+    shop.add(*form, *shop.tea, 10, 1);
+    shop.add(*form, *shop.cup, 13, 1);
+    EXPECT_TRUE(form->setRowValue(0, u"price"_s, Decimal::fromText(u"1.05")));
+    EXPECT_TRUE(form->setRowValue(1, u"price"_s, Decimal::fromText(u"1.5")));
+    for (int row = 0; row < 2; ++row)
+        EXPECT_TRUE(form->setRowValue(row, u"includeShipment"_s, Decimal(1)));
+    form->shipment.setValue(Decimal(1));
+    EXPECT_TRUE(form->shipment.userChanged());
+    ASSERT_TRUE(form->confirmDoc());
+    // 1.00 on 30.00 is 0.033333333; 10.50 with its share is 10.85, and 1.085 is 1.08 half to even.
+    EXPECT_EQ(shop.read(*shop.tea)->baseCost(), 1.08);
+    EXPECT_EQ(shop.read(*shop.cup)->baseCost(), 1.55);
+}
+
 TEST(AverageCost, shipmentWithoutARowToBearItIsLostToTheCost)
 {
     TeaShop shop;
