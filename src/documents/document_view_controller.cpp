@@ -8,6 +8,7 @@
 #include "period/period_closing.h"
 
 #include <algorithm>
+#include <limits>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -85,7 +86,9 @@ bool DocumentViewController::setDocumentNumber()
     DocumentModel& document = documentModel();
     const auto counters =
         appDelegate.connector.freeSQL<DocumentNumber>("WHERE doc_type_id=?", {document.docTypeID});
-    if (!counters.empty()) {
+    // A file may hold any number; behind the last one there is none to hand out.
+    constexpr qint64 lastNumber = std::numeric_limits<qint64>::max();
+    if (!counters.empty() && counters.front()->docNumber < lastNumber) {
         document.docNumber = counters.front()->getNextNumber();
         if (appDelegate.connector.update(*counters.front()) == 1)
             return true;

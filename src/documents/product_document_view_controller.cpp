@@ -125,6 +125,7 @@ void ProductDocumentViewController::prepareData()
 
 void ProductDocumentViewController::observeCatalogs()
 {
+    // Changed amounts concern the product tree alone, which listens for itself.
     m_observations.clear();
     const auto observe = [this](NotificationName name, void (ProductDocumentViewController::*update)()) {
         m_observations.push_back(appDelegate.notifications.observe(

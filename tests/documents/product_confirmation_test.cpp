@@ -1,6 +1,7 @@
 #include "product_form.h"
 
 #include <cmath>
+#include <limits>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -105,6 +106,17 @@ TEST(Confirmation, aTypeWithoutACounterIsRefusedWithBothSentences)
     const auto form = shop.formWithTea(DocType::BuyProduct, 10, 5);
     expectRefused(shop, *form, u"Can't get serial number for document.\nCan't confirm document.\n"_s);
     EXPECT_EQ(form->document->docNumber, 0);
+}
+
+TEST(Confirmation, behindTheLastNumberThereIsNone)
+{
+    TeaShop shop;
+    const auto counter =
+        shop.db.freeSQL<DocumentNumber>("WHERE doc_type_id=?", {DocType::BuyProduct}).front();
+    counter->docNumber = std::numeric_limits<qint64>::max();
+    shop.store(*counter);
+    const auto form = shop.formWithTea(DocType::BuyProduct, 10, 5);
+    expectRefused(shop, *form, u"Can't get serial number for document.\nCan't confirm document.\n"_s);
 }
 
 using enum NotificationName;
