@@ -298,7 +298,9 @@ void ContragentViewController::openCloseContragentBalance()
                                      "incorrectness main balance. Are you sure?"),
         .buttons = {localized("Proceed"), localized("Cancel")},
         .alertStyle = 1};
-    appDelegate.dialogs.ask(question, [this](int answer) {
+    appDelegate.dialogs.ask(question, [this, asked = focusedObject](int answer) {
+        if (!asked || asked != focusedObject)
+            return; // the popover was closed meanwhile
         contragentBalance.setEnabled(answer == firstButton);
         if (answer != firstButton)
             contragentBalanceOpenButton.setOn(true);

@@ -22,7 +22,8 @@ bool storeDefaultAndHidden(Connector& connector, Record& record, DefaultHiddenBo
         record.isDefault = false;
 
     UserWrite write(connector);
-    if (write.step(isNew ? connector.insert(record) : connector.update(record)) && record.isDefault) {
+    const bool takesDefault = changed == DefaultHiddenBox::Default && record.isDefault;
+    if (write.step(isNew ? connector.insert(record) : connector.update(record)) && takesDefault) {
         const auto others =
             connector.freeSQL<Record>("WHERE is_default=? AND id!=?", {true, record.id}, Fill::Nothing);
         for (const auto& other : others) {
@@ -50,7 +51,7 @@ bool writeDefaultAndHiddenOf(CatalogListController<Record>& controller, const Ca
     const auto& rows = view.loadedRecords();
     if (std::ranges::find(rows, record) == rows.end())
         controller.markStale();
-    else if (record->isDefault) {
+    else if (changed == DefaultHiddenBox::Default && record->isDefault) {
         for (const auto& other : rows)
             other->isDefault = other == record;
     }

@@ -368,7 +368,9 @@ void ProductViewController::openCloseBaseCost()
                              "by program. It may cause of incorrectness main balance. Are you sure?"),
                          .buttons = {localized("Proceed"), localized("Cancel")},
                          .alertStyle = 1};
-    appDelegate.dialogs.ask(question, [this](int answer) {
+    appDelegate.dialogs.ask(question, [this, asked = focusedObject](int answer) {
+        if (!asked || asked != focusedObject)
+            return; // the popover was closed meanwhile
         productBaseCost.setEnabled(answer == firstButton);
         if (answer != firstButton)
             productBaseCostOpenButton.setOn(true);

@@ -104,6 +104,13 @@ protected:
 private:
     static void removeLeaves(Nodes& nodes, const std::function<bool(const Model&)>& unwanted);
     void takeOut(const RecordNode& node);
+    // The row's record in the tree as it is now: who holds a row may hold one of an older tree, with values
+    // that a document has changed since.
+    RecordNode current(const Node& node) const
+    {
+        const RecordNode shown = record(node);
+        return shown ? m_owner.getItemWithIdentifier(shown->getIdentifierForDragging()) : nullptr;
+    }
 
     TreeCatalogOwner<Model>& m_owner;
     Nodes m_groups;
@@ -137,7 +144,7 @@ QVariant TreeCatalogView<Model>::value(const Node& node, const QString& identifi
 template <class Model>
 bool TreeCatalogView<Model>::setValue(const Node& node, const QString& identifier, const QVariant& value)
 {
-    const RecordNode shown = record(node);
+    const RecordNode shown = current(node);
     bool* const flag = shown ? checkBox(*shown, identifier) : nullptr;
     if (!flag)
         return false;
@@ -178,11 +185,11 @@ QString TreeCatalogView<Model>::pasteboardText(const Node& node) const
 template <class Model>
 bool TreeCatalogView<Model>::validateDrop(const QString& pasteboard, const Node& target) const
 {
-    const RecordNode proposed = record(target);
-    if (!proposed)
+    if (!record(target))
         return true;
     const RecordNode dragged = m_owner.getItemWithIdentifier(pasteboard);
-    if (!dragged || dragged == proposed || proposed->isChildOfObject(dragged.get()))
+    const RecordNode proposed = current(target);
+    if (!dragged || !proposed || dragged == proposed || proposed->isChildOfObject(dragged.get()))
         return false;
     return !dragged->isGroup() || proposed->isGroup();
 }
@@ -204,7 +211,7 @@ bool TreeCatalogView<Model>::acceptDrop(const QString& pasteboard, const Node& t
     if (!dragged || !validateDrop(pasteboard, target))
         return false;
     takeOut(dragged);
-    const RecordNode holder = record(target);
+    const RecordNode holder = current(target);
     if (holder && holder->canHoldChildren())
         holder->setChild(dragged);
     else if (std::ranges::find(m_topLevel, dragged) == m_topLevel.end())

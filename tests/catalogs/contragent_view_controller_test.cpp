@@ -307,6 +307,44 @@ TEST_F(ContragentCatalog, cancellingTheSheetLeavesTheFieldClosedAndTheButtonOn)
     EXPECT_TRUE(controller.contragentBalanceOpenButton.isOn());
 }
 
+TEST_F(ContragentCatalog, anAnswerThatComesAfterThePopoverClosedOpensNoOtherLock)
+{
+    storeContragent(u"C"_s, 5);
+    storeContragent(u"D"_s, 7);
+    controller.view.doubleAction(row(controller.view, u"C"_s));
+    controller.contragentBalanceOpenButton.setOn(false);
+    controller.contragentBalanceOpenButton.userChanged();
+    controller.cancelContragentPopover();
+    controller.view.doubleAction(row(controller.view, u"D"_s));
+    ASSERT_EQ(program.dialogs.unanswered.size(), 1U);
+    program.dialogs.unanswered.front()(firstButton);
+    EXPECT_FALSE(controller.contragentBalance.enabled());
+    EXPECT_TRUE(controller.contragentBalanceOpenButton.isOn());
+}
+
+TEST_F(ContragentCatalog, aCancelledAdditionDoesNotKeepTheNextEditFromOk)
+{
+    storeContragent(u"C"_s);
+    controller.addContragent();
+    EXPECT_FALSE(controller.contragentOkButton.enabled());
+    controller.cancelContragentPopover();
+    controller.view.doubleAction(row(controller.view, u"C"_s));
+    EXPECT_TRUE(controller.contragentOkButton.enabled());
+}
+
+TEST_F(ContragentCatalog, aTickOnARowOfAnOlderTreeKeepsTheBalanceThatADocumentChangedMeanwhile)
+{
+    storeContragent(u"C"_s, 5);
+    const OutlineView::Node old = row(controller.view, u"C"_s);
+    const auto paid = stored<Contragent>(1);
+    paid->setBalance(99);
+    ASSERT_EQ(connector().update(*paid), 1);
+    program.appDelegate.notifications.post(NotificationName::ContragentBalanceChangedNotification);
+    EXPECT_TRUE(controller.view.setValue(old, u"hidden"_s, true));
+    EXPECT_TRUE(stored<Contragent>(1)->isHidden);
+    EXPECT_EQ(stored<Contragent>(1)->balance(), 99);
+}
+
 TEST_F(ContragentCatalog, closingTheLockAsksNothing)
 {
     storeContragent(u"C"_s, 5);

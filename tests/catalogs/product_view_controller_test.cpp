@@ -228,6 +228,21 @@ TEST_F(ProductCatalog, theBaseCostIsLockedAndOpeningTheLockAsks)
     EXPECT_EQ(stored<Product>(1)->baseCost(), 3);
 }
 
+TEST_F(ProductCatalog, anAnswerThatComesAfterThePopoverClosedOpensNoOtherLock)
+{
+    storeProduct(u"Pen"_s);
+    storeProduct(u"Ink"_s);
+    controller.view.doubleAction(row(controller.view, u"Pen"_s));
+    controller.productBaseCostOpenButton.setOn(false);
+    controller.productBaseCostOpenButton.userChanged();
+    controller.cancelProductPopover();
+    controller.view.doubleAction(row(controller.view, u"Ink"_s));
+    ASSERT_EQ(program.dialogs.unanswered.size(), 1U);
+    program.dialogs.unanswered.front()(firstButton);
+    EXPECT_FALSE(controller.productBaseCost.enabled());
+    EXPECT_TRUE(controller.productBaseCostOpenButton.isOn());
+}
+
 TEST_F(ProductCatalog, aCostThatADocumentChangedMeanwhileOutlivesAnEditBehindTheLock)
 {
     storeProduct(u"Pen"_s);

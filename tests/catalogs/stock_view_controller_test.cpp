@@ -140,6 +140,14 @@ TEST_F(WarehouseCatalog, anotherBoxDoesNotTouchTheDefaultOfOthers)
     EXPECT_EQ(storedBoxes(), (QStringList{u"1/0"_s, u"0/1"_s}));
 }
 
+TEST_F(WarehouseCatalog, showingAHiddenDefaultAgainLeavesAnotherDefaultAlone)
+{
+    addStored(u"A"_s, true);
+    addStored(u"B"_s, true, true); // by another program: here no record is both
+    EXPECT_TRUE(controller.view.setValue(1, u"hidden"_s, false));
+    EXPECT_EQ(storedBoxes(), (QStringList{u"1/0"_s, u"1/0"_s}));
+}
+
 TEST_F(WarehouseCatalog, aFailedStoreLeavesBothTicksAsTheyWereWhicheverCallFails)
 {
     addStored(u"A"_s, true);

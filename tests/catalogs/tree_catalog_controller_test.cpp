@@ -188,6 +188,21 @@ TYPED_TEST(TreeCatalog, aNodeDropsNeitherOnItselfNorOnItsDescendants)
     EXPECT_EQ(this->shape(this->view()), u"A(B(c,d),e) f"_s);
 }
 
+TYPED_TEST(TreeCatalog, aRowOfAnOlderTreeStandsForItsRecordInTheTreeAsItIsNow)
+{
+    this->storeSample();
+    auto& view = this->view();
+    const OutlineView::Node oldB = this->row(view, u"B"_s);
+    const QString a = view.pasteboardText(this->row(view, u"A"_s));
+    const QString f = view.pasteboardText(this->row(view, u"f"_s));
+    this->catalog.controller.markStale();
+    EXPECT_FALSE(view.validateDrop(a, oldB)) << "A would hold itself";
+    EXPECT_FALSE(view.acceptDrop(a, oldB));
+    this->catalog.controller.markStale();
+    EXPECT_TRUE(view.acceptDrop(f, oldB));
+    EXPECT_EQ(this->shape(view), u"A(B(c,d,f),e)"_s);
+}
+
 TYPED_TEST(TreeCatalog, aGroupDroppedOnALeafIsRefused)
 {
     this->storeSample();

@@ -7,8 +7,8 @@
 
 namespace zelvor {
 
-// Answers by script and keeps what was asked. Without a scripted answer a question stays unanswered and a
-// panel is cancelled.
+// Answers by script and keeps what was asked. Without a scripted answer a question waits among the unanswered
+// ones, for a test that answers late, and a panel is cancelled.
 class ScriptedDialogs final : public Dialogs {
 public:
     void showAlert(const Alert& alert) override
@@ -20,8 +20,10 @@ public:
     void ask(const Alert& alert, std::function<void(int)> answer) override
     {
         questions.push_back(alert);
-        if (answers.empty())
+        if (answers.empty()) {
+            unanswered.push_back(std::move(answer));
             return;
+        }
         const int button = answers.front();
         answers.pop_front();
         answer(button);
@@ -41,6 +43,7 @@ public:
 
     std::vector<Alert> alerts;
     std::vector<Alert> questions;
+    std::vector<std::function<void(int)>> unanswered;
     std::vector<SavePanel> savePanels;
     std::vector<OpenPanel> openPanels;
     std::deque<int> answers; // firstButton and up
