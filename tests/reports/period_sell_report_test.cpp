@@ -262,9 +262,10 @@ TEST_F(PeriodSellReport, employeesShowTheirCounterpartiesAndThoseOfNobodyComeLas
     report(2);
     // Below "No manager" the holder's id stands without the offset, so the stray customer is found by the
     // product whose id is the chain's, or by nobody.
-    EXPECT_EQ(names(), (QStringList{u"Ann"_s, u"Chain"_s, u"Shop"_s, u"Tea"_s, u"Tea"_s, u"Stray"_s, u"Tea"_s,
+    ASSERT_EQ(names(), (QStringList{u"Ann"_s, u"Chain"_s, u"Shop"_s, u"Tea"_s, u"Tea"_s, u"Stray"_s, u"Tea"_s,
                                     u"TOTAL"_s}));
     EXPECT_EQ(view.reportRows()[5]->parentID, chain);
+    ASSERT_NE(view.reportRows()[5]->parent, nullptr);
     EXPECT_EQ(view.reportRows()[5]->parent->name, u"Tea"_s);
 }
 
