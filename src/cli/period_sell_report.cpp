@@ -80,7 +80,7 @@ int run(AppDelegate& appDelegate, const Arguments& arguments, const Report::Prin
     if (!order.key.isEmpty())
         view.sort(order.key, order.ascending);
     const auto& rows = view.reportRows();
-    return print({view, [&](int row) { return rows[static_cast<std::size_t>(row)]->rowType; }});
+    return print({view, [&](int row) { return rows[static_cast<std::size_t>(row)]->rowType(); }});
 }
 
 } // namespace

@@ -11,8 +11,6 @@
 
 namespace zelvor {
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 constexpr qint64 contragentOffset = 10'000;
@@ -68,42 +66,39 @@ public:
         connector.scan("SELECT id, name, measurement_id, group_id, pack_amount FROM product ORDER BY id", {},
                        [&](const Statement& row) {
                            const auto unit = units.find(row.integer(2));
-                           m_facts.push_back({row.integer(0), row.text(1),
-                                              unit != units.end() ? unit->second : QString(), row.integer(3),
-                                              Decimal::fromDouble(row.real(4), moneyHandler)});
+                           m_facts.push_back({row.integer(0),
+                                              row.integer(3),
+                                              {row.text(1), unit != units.end() ? unit->second : QString(),
+                                               Decimal::fromDouble(row.real(4), moneyHandler)}});
                        });
     }
 
-    // The product's row; its parent is the product's group.
-    PeriodSellReportRow& appendRow(PeriodSellReportRows& rows, const SoldProduct& sold) const
+    // The product's row; its parent is the product's group. For one list of rows.
+    PeriodSellReportRow& appendRow(PeriodSellReportRows& rows, const SoldProduct& sold)
     {
         PeriodSellReportRow& row = rows.appendProduct();
         row.id = sold.productID;
-        row.rowType = u"product"_s;
+        row.type = SellRowType::Product;
         row.innerAmount = sold.amount;
         row.innerBaseSum = sold.baseSum;
         row.innerPriceSum = sold.priceSum;
-        const Fact* fact = find(sold.productID);
-        if (!fact) {
-            row.innerPackAmount = Decimal::nan(); // the column of a record that is not there
-            return row;
-        }
-        row.name = QString(fact->name);
-        row.unit = QString(fact->unit);
-        row.parentID = fact->groupID;
-        row.innerPackAmount = fact->packAmount;
+        Fact* known = find(sold.productID);
+        Fact& fact = known ? *known : m_unknown;
+        if (!fact.kept)
+            fact.kept = &rows.appendSubject(std::move(fact.subject));
+        row.subject = fact.kept;
+        row.parentID = fact.groupID;
         return row;
     }
 
 private:
     struct Fact {
         qint64 id;
-        QString name;
-        QString unit;
         qint64 groupID;
-        Decimal packAmount;
+        SellReportSubject subject;
+        const SellReportSubject* kept = nullptr; // the rows' own, once the product was met
     };
-    const Fact* find(qint64 id) const
+    Fact* find(qint64 id)
     {
         // Records are never deleted, so nearly every catalog has its ids without a gap.
         const auto guess = static_cast<quint64>(id - 1);
@@ -114,6 +109,8 @@ private:
     }
 
     std::vector<Fact> m_facts;
+    // The columns of a record that is not there.
+    Fact m_unknown{0, 0, {.name = {}, .innerPackAmount = Decimal::nan()}};
 };
 
 // Walks the rows of the confirmed sales of the period that the product filter lets through. The documents
@@ -156,12 +153,14 @@ public:
             m_rows.assign(m_rows.size(), {});
         }
     }
-    std::vector<SoldProduct> ofHolder(std::size_t holder)
+    // Once for each holder: its sales are given up, so that the rows made of them take their place in memory.
+    std::vector<SoldProduct> takeOfHolder(std::size_t holder)
     {
-        if (m_rows[holder].empty())
+        const std::vector<SoldRow> sales = std::exchange(m_rows[holder], {});
+        if (sales.empty())
             return {};
         m_scratch.clear();
-        for (const SoldRow& row : m_rows[holder])
+        for (const SoldRow& row : sales)
             m_scratch.add(row);
         return m_scratch.products();
     }
@@ -188,25 +187,25 @@ private:
     bool m_keepsAll = false;
 };
 
-void appendGathering(PeriodSellReportRows& rows, qint64 id, const CatalogEntry& entry, const QString& rowType,
+void appendGathering(PeriodSellReportRows& rows, qint64 id, const CatalogEntry& entry, SellRowType type,
                      qint64 parentID)
 {
     TotalRowForPeriodSell& row = rows.appendGathering();
     row.id = id;
-    row.name = entry.name;
-    row.rowType = rowType;
+    row.subject = &rows.appendSubject({entry.name});
+    row.type = type;
     row.parentID = parentID;
     row.parentContragentID = entry.parentContragentID;
 }
 
-void appendGroups(PeriodSellReportRows& rows, const std::vector<CatalogEntry>& groups, const QString& rowType)
+void appendGroups(PeriodSellReportRows& rows, const std::vector<CatalogEntry>& groups, SellRowType type)
 {
     for (const CatalogEntry& group : groups)
-        appendGathering(rows, group.id, group, rowType, group.parentID);
+        appendGathering(rows, group.id, group, type, group.parentID);
 }
 
-void appendProducts(PeriodSellReportRows& rows, const ProductFacts& facts,
-                    const std::vector<SoldProduct>& sold, qint64 parentID)
+void appendProducts(PeriodSellReportRows& rows, ProductFacts& facts, const std::vector<SoldProduct>& sold,
+                    qint64 parentID)
 {
     for (const SoldProduct& product : sold)
         facts.appendRow(rows, product).parentID = parentID;
@@ -261,18 +260,18 @@ PeriodSellReportRows readByManagerAndContragent(Connector& connector, const Peri
     const std::vector<CatalogEntry> contragents = readContragents(connector, IDFilter({}));
     const auto places = placesByManager(contragents);
     SalesByHolder sales = readByContragent(connector, query, contragents);
-    const ProductFacts facts(connector);
+    ProductFacts facts(connector);
     for (const CatalogEntry& manager : readManagers(connector, query)) {
-        appendGathering(rows, managerRowID(manager), manager, u"manager"_s, 0);
+        appendGathering(rows, managerRowID(manager), manager, SellRowType::Manager, 0);
         const auto own = places.find(manager.id);
         if (own == places.end())
             continue;
         for (const std::size_t place : own->second) {
             const CatalogEntry& contragent = contragents[place];
             const qint64 rowID = contragent.id + contragentOffset;
-            appendGathering(rows, rowID, contragent, u"contragent"_s,
+            appendGathering(rows, rowID, contragent, SellRowType::Contragent,
                             contragentParentID(contragent, manager));
-            appendProducts(rows, facts, sales.ofHolder(place), rowID);
+            appendProducts(rows, facts, sales.takeOfHolder(place), rowID);
         }
     }
     return rows;
@@ -295,13 +294,13 @@ PeriodSellReportRows readByManagerAlone(Connector& connector, const PeriodSellRe
             sales.assign(contragents[place].id, holder);
     }
     sales.read(connector, query);
-    const ProductFacts facts(connector);
+    ProductFacts facts(connector);
     for (std::size_t holder = 0; holder < managers.size(); ++holder) {
         const qint64 rowID = managerRowID(managers[holder]);
-        appendGathering(rows, rowID, managers[holder], u"manager"_s, 0);
+        appendGathering(rows, rowID, managers[holder], SellRowType::Manager, 0);
         // Kept: nobody's counterparties are no condition at all, so such an employee shows every sale.
         const bool hasContragents = places.contains(managers[holder].id);
-        appendProducts(rows, facts, hasContragents ? sales.ofHolder(holder) : sales.all(), rowID);
+        appendProducts(rows, facts, hasContragents ? sales.takeOfHolder(holder) : sales.all(), rowID);
     }
     return rows;
 }
@@ -314,11 +313,11 @@ PeriodSellReportRows readSalesByProductGroup(Connector& connector, const PeriodS
     appendGroups(rows,
                  readEntries(connector, "SELECT id, name, parent_id, 0, 0 FROM product_group ORDER BY id",
                              IDFilter(query.productTypeIDs)),
-                 u"productGroup"_s);
+                 SellRowType::ProductGroup);
     SoldSums sums;
     if (!scanSales(connector, query, [&sums](qint64, const SoldRow& row) { sums.add(row); }))
         sums.clear();
-    const ProductFacts facts(connector);
+    ProductFacts facts(connector);
     for (const SoldProduct& sold : sums.products())
         facts.appendRow(rows, sold);
     return rows;
@@ -330,17 +329,17 @@ PeriodSellReportRows readSalesByContragent(Connector& connector, const PeriodSel
     appendGroups(rows,
                  readEntries(connector, "SELECT id, name, parent_id, 0, 0 FROM contragent_group ORDER BY id",
                              IDFilter(query.contragentTypeIDs)),
-                 u"contragent"_s);
+                 SellRowType::Contragent);
     const std::vector<CatalogEntry> contragents = readContragents(connector, IDFilter(query.contragentIDs));
     SalesByHolder sales = readByContragent(connector, query, contragents);
-    const ProductFacts facts(connector);
+    ProductFacts facts(connector);
     for (std::size_t place = 0; place < contragents.size(); ++place) {
         const CatalogEntry& contragent = contragents[place];
         const qint64 rowID = contragent.id + contragentOffset;
         const qint64 holderID = contragent.parentContragentID;
-        appendGathering(rows, rowID, contragent, u"contragent"_s,
+        appendGathering(rows, rowID, contragent, SellRowType::Contragent,
                         holderID != 0 ? holderID + contragentOffset : contragent.parentID);
-        appendProducts(rows, facts, sales.ofHolder(place), rowID);
+        appendProducts(rows, facts, sales.takeOfHolder(place), rowID);
     }
     return rows;
 }

@@ -7,6 +7,8 @@
 
 namespace zelvor {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 using Rows = std::vector<PeriodSellReportRow*>;
@@ -15,7 +17,7 @@ constexpr int indentStep = 3;
 
 bool nameLess(const PeriodSellReportRow* a, const PeriodSellReportRow* b)
 {
-    return textLess(a->name, b->name);
+    return textLess(a->name(), b->name());
 }
 
 // What is no number sorts before all numbers.
@@ -52,9 +54,35 @@ Number numberOfKey(const QString& key)
 
 } // namespace
 
+const SellReportSubject& PeriodSellReportRow::nothing()
+{
+    static const SellReportSubject subject;
+    return subject;
+}
+
+QString PeriodSellReportRow::rowType() const
+{
+    switch (type) {
+    case SellRowType::ProductGroup:
+        return u"productGroup"_s;
+    case SellRowType::Product:
+        return u"product"_s;
+    case SellRowType::Contragent:
+        return u"contragent"_s;
+    case SellRowType::Manager:
+        return u"manager"_s;
+    case SellRowType::Total:
+        return u"total"_s;
+    case SellRowType::None:
+        break;
+    }
+    return {};
+}
+
 Decimal PeriodSellReportRow::innerPacks() const
 {
-    return innerPackAmount.isZero() ? Decimal() : innerAmount.dividedBy(innerPackAmount, decimalHandler);
+    const Decimal& pack = innerPackAmount();
+    return pack.isZero() ? Decimal() : innerAmount.dividedBy(pack, decimalHandler);
 }
 
 double PeriodSellReportRow::percent() const
@@ -66,8 +94,10 @@ double PeriodSellReportRow::percent() const
 
 void PeriodSellReportRow::setChild(PeriodSellReportRow& child)
 {
-    m_children.push_back(&child);
-    m_childrenInOrder = m_children.size() == 1; // sorted once, when somebody looks
+    if (!m_children)
+        m_children = std::make_unique<Children>();
+    m_children->rows.push_back(&child);
+    m_children->inOrder = m_children->rows.size() == 1; // sorted once, when somebody looks
     child.parent = this;
     child.parentID = id;
     child.indent = indent + indentStep;
@@ -75,10 +105,13 @@ void PeriodSellReportRow::setChild(PeriodSellReportRow& child)
 
 const std::vector<PeriodSellReportRow*>& PeriodSellReportRow::children() const
 {
-    if (!m_childrenInOrder)
-        std::ranges::stable_sort(m_children, nameLess);
-    m_childrenInOrder = true;
-    return m_children;
+    static const Rows none;
+    if (!m_children)
+        return none;
+    if (!m_children->inOrder)
+        std::ranges::stable_sort(m_children->rows, nameLess);
+    m_children->inOrder = true;
+    return m_children->rows;
 }
 
 void PeriodSellReportRow::appendDataToParent(const PeriodSellReportRow& row)
@@ -91,18 +124,20 @@ void PeriodSellReportRow::appendDataToParent(const PeriodSellReportRow& row)
 
 void PeriodSellReportRow::sortByField(const QString& key, bool ascending)
 {
+    if (!m_children)
+        return;
     children();
-    sortRows(m_children, key, ascending);
-    for (PeriodSellReportRow* child : m_children)
+    sortRows(m_children->rows, key, ascending);
+    for (PeriodSellReportRow* child : m_children->rows)
         child->sortByField(key, ascending);
 }
 
 QVariant PeriodSellReportRow::valueForIdentifier(QStringView identifier) const
 {
     if (identifier == u"name")
-        return indentStr() + name;
+        return indentStr() + name();
     if (identifier == u"unit")
-        return unit;
+        return unit();
     if (identifier == u"amount")
         return amount();
     if (identifier == u"packs")

@@ -2,36 +2,52 @@
 
 #include "core/table_model.h"
 
+#include <memory>
 #include <vector>
 
 namespace zelvor {
 
+// What a row tells of its record: one of these for a product, however many customers bought it.
+struct SellReportSubject {
+    QString name;
+    QString unit = {};            // short form of a product's base unit
+    Decimal innerPackAmount = {}; // base units in a pack
+};
+
+enum class SellRowType : quint8 { None, ProductGroup, Product, Contragent, Manager, Total };
+
 // A row of the period sell report, a tree by `parentID`. The rows of a report belong to the report's view;
-// they refer to each other without owning.
+// they refer to each other and to their subject without owning.
+//
+// A report by customers has some hundred thousand rows, so a row is kept small: the small fields stand in
+// the padding that ends each Decimal.
 class PeriodSellReportRow : public TableModelWithNumbers {
 public:
     static constexpr RoundingHandler percentDecimalHandler = percentHandler;
 
-    qint64 parentID = 0; // 0 for a top-level row
-    QString rowType;     // "productGroup", "product", "contragent", "manager" or "total"
-    QString name;
-    QString unit;        // short form of a product's base unit
-    Decimal innerAmount; // sold, base units
+    [[no_unique_address]] Decimal innerAmount;  // sold, base units
+    int indent = 0;                             // blanks
+    qint64 parentID = 0;                        // 0 for a top-level row
+    [[no_unique_address]] Decimal innerBaseSum; // at base cost, currency of the project
+    SellRowType type = SellRowType::None;
+    PeriodSellReportRow* parent = nullptr;
+    [[no_unique_address]] Decimal innerPriceSum; // at selling price, currency of the project
+    const SellReportSubject* subject = &nothing();
+
+    // "productGroup", "product", "contragent", "manager" or "total".
+    QString rowType() const;
+    const QString& name() const { return subject->name; }
+    const QString& unit() const { return subject->unit; }
+    const Decimal& innerPackAmount() const { return subject->innerPackAmount; }
+    double packAmount() const { return innerPackAmount().toDouble(); }
     double amount() const { return innerAmount.toDouble(); }
     void setAmount(double value) { innerAmount = Decimal::fromDouble(value, decimalHandler); }
-    Decimal innerPackAmount; // base units in a pack
-    double packAmount() const { return innerPackAmount.toDouble(); }
-    void setPackAmount(double value) { innerPackAmount = Decimal::fromDouble(value, decimalHandler); }
-    Decimal innerBaseSum; // at base cost, currency of the project
     double baseSum() const { return innerBaseSum.toDouble(); }
     void setBaseSum(double value) { innerBaseSum = Decimal::fromDouble(value, decimalHandler); }
-    Decimal innerPriceSum; // at selling price, currency of the project
     double priceSum() const { return innerPriceSum.toDouble(); }
     void setPriceSum(double value) { innerPriceSum = Decimal::fromDouble(value, decimalHandler); }
-    int indent = 0; // blanks
-    PeriodSellReportRow* parent = nullptr;
 
-    bool isProduct() const { return rowType == u"product"; }
+    bool isProduct() const { return type == SellRowType::Product; }
     // Packs sold; 0 for a product without a pack.
     virtual Decimal innerPacks() const;
     double packs() const { return innerPacks().toDouble(); }
@@ -52,12 +68,18 @@ public:
     QVariant valueForIdentifier(QStringView identifier) const override;
 
 private:
+    // Without name, unit and pack.
+    static const SellReportSubject& nothing();
     // Adds the row's sums and those packs; false for a row that gathers nothing.
     virtual bool addData(const PeriodSellReportRow&, const Decimal&) { return false; }
 
-    mutable std::vector<PeriodSellReportRow*> m_children;
-    mutable bool m_childrenInOrder = true;
+    struct Children {
+        std::vector<PeriodSellReportRow*> rows;
+        bool inOrder = true;
+    };
+    std::unique_ptr<Children> m_children; // none for nearly every product
 };
+static_assert(sizeof(PeriodSellReportRow) <= 128);
 
 // Sorts by "name", "amount", "base", "price", "profit" or "percent"; equal rows keep their order, and so do
 // all with another key.

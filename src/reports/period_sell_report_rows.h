@@ -2,6 +2,8 @@
 
 #include "reports/total_row_for_period_sell.h"
 
+#include <deque>
+#include <utility>
 #include <vector>
 
 namespace zelvor {
@@ -14,6 +16,11 @@ public:
     PeriodSellReportRows(PeriodSellReportRows&&) = default;
     PeriodSellReportRows& operator=(PeriodSellReportRows&&) = default;
 
+    // What rows refer to: appended once, shared by as many rows as need it.
+    const SellReportSubject& appendSubject(SellReportSubject subject)
+    {
+        return m_subjects.emplace_back(std::move(subject));
+    }
     PeriodSellReportRow& appendProduct() { return append(m_products); }
     TotalRowForPeriodSell& appendGathering() { return append(m_gathering); }
     const std::vector<PeriodSellReportRow*>& inOrder() const { return m_order; }
@@ -33,6 +40,7 @@ private:
         return row;
     }
 
+    std::deque<SellReportSubject> m_subjects;
     Blocks<PeriodSellReportRow> m_products;
     Blocks<TotalRowForPeriodSell> m_gathering;
     std::vector<PeriodSellReportRow*> m_order;

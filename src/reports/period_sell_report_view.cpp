@@ -34,8 +34,9 @@ void PeriodSellReportView::setRows(PeriodSellReportRows rows)
 {
     m_rows = std::move(rows);
     m_grandTotal = TotalRowForPeriodSell();
-    m_grandTotal.name = localized("TOTAL");
-    m_grandTotal.rowType = u"total"_s;
+    m_grandTotalSubject.name = localized("TOTAL");
+    m_grandTotal.subject = &m_grandTotalSubject;
+    m_grandTotal.type = SellRowType::Total;
     m_collapsedRows.clear();
     placeRows();
     m_collapsedRows.push_back(&m_grandTotal);
@@ -188,7 +189,8 @@ CellStyle PeriodSellReportView::cellStyle(int row, const QString& identifier) co
     style.color = line->isProduct() ? blackColor : inOrderColor;
     if ((identifier == u"profit" && line->profit() < 0) || (identifier == u"percent" && line->percent() < 0))
         style.color = redColor;
-    const bool leftAligned = identifier == u"unit" || (identifier == u"name" && line->rowType != u"total");
+    const bool leftAligned =
+        identifier == u"unit" || (identifier == u"name" && line->type != SellRowType::Total);
     style.alignment = leftAligned ? CellAlignment::Left : CellAlignment::Right;
     return style;
 }

@@ -50,6 +50,7 @@ private:
     void showRows(bool calculateTotals);
 
     PeriodSellReportRows m_rows;
+    SellReportSubject m_grandTotalSubject;
     TotalRowForPeriodSell m_grandTotal;
     std::vector<PeriodSellReportRow*> m_collapsedRows;
     std::vector<PeriodSellReportRow*> m_reportRows;

@@ -15,11 +15,27 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // What the free query fills: its columns are the select list's, in order.
-class FreeRow : public PeriodSellReportRow {
+class FreeRow : public TableModelWithNumbers {
 public:
+    qint64 parentID = 0;
+    QString name;
+    QString unit;
+    Decimal innerPackAmount;
+    double packAmount() const { return innerPackAmount.toDouble(); }
+    void setPackAmount(double value) { innerPackAmount = Decimal::fromDouble(value, decimalHandler); }
+    Decimal innerAmount;
+    double amount() const { return innerAmount.toDouble(); }
+    void setAmount(double value) { innerAmount = Decimal::fromDouble(value, decimalHandler); }
+    Decimal innerBaseSum;
+    double baseSum() const { return innerBaseSum.toDouble(); }
+    void setBaseSum(double value) { innerBaseSum = Decimal::fromDouble(value, decimalHandler); }
+    Decimal innerPriceSum;
+    double priceSum() const { return innerPriceSum.toDouble(); }
+    void setPriceSum(double value) { innerPriceSum = Decimal::fromDouble(value, decimalHandler); }
+
     static const TableInfo& table()
     {
-        using Row = PeriodSellReportRow;
+        using Row = FreeRow;
         static constexpr ColumnInfo columns[] = {
             integerColumn<&TableModel::id>("id"),
             textColumn<&Row::name>("name"),

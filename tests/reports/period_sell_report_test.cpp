@@ -44,7 +44,7 @@ protected:
             for (const QString& number : {u"amount"_s, u"packs"_s, u"baseSum"_s, u"priceSum"_s, u"profit"_s})
                 cells << numberCell(view.value(row, number));
             cells << QString::number(view.value(row, u"percent"_s).toDouble(), 'f', 4);
-            cells << view.reportRows()[static_cast<std::size_t>(row)]->rowType;
+            cells << view.reportRows()[static_cast<std::size_t>(row)]->rowType();
             lines << cells.join(u'|');
         }
         return lines;
@@ -53,7 +53,7 @@ protected:
     {
         QStringList names;
         for (const PeriodSellReportRow* row : controller.mainView.reportRows())
-            names << row->name;
+            names << row->name();
         return names;
     }
 
@@ -266,7 +266,7 @@ TEST_F(PeriodSellReport, employeesShowTheirCounterpartiesAndThoseOfNobodyComeLas
                                     u"TOTAL"_s}));
     EXPECT_EQ(view.reportRows()[5]->parentID, chain);
     ASSERT_NE(view.reportRows()[5]->parent, nullptr);
-    EXPECT_EQ(view.reportRows()[5]->parent->name, u"Tea"_s);
+    EXPECT_EQ(view.reportRows()[5]->parent->name(), u"Tea"_s);
 }
 
 TEST_F(PeriodSellReport, nobodysCounterpartiesAreListedWhateverTheFilter)
