@@ -70,9 +70,13 @@ private:
         const std::optional<QJsonObject> operation = parseStrictObject(line, &error);
         if (!operation)
             return Answer::invalid(error);
+        const ReplayClock before = m_clock;
         if (m_replays)
             setClock(*operation);
-        return m_operations.run(*operation);
+        const Answer answer = m_operations.run(*operation);
+        if (answer.result == Answer::Result::Invalid)
+            m_clock = before; // a line that is no operation takes no time
+        return answer;
     }
 
     void setClock(const QJsonObject& operation)

@@ -6,6 +6,12 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace zelvor {
 
+// Where the record ends: before the carriage return of a file with Windows lines.
+static qsizetype endOf(const QByteArray& record)
+{
+    return record.endsWith('\r') ? record.size() - 1 : record.size();
+}
+
 bool CsvReader::readLine(QByteArray& text)
 {
     switch (m_lines.next(text)) {
@@ -33,53 +39,23 @@ bool CsvReader::next(QStringList& fields)
         if (m_recordLine == 1 && record.startsWith("\xEF\xBB\xBF"))
             record.remove(0, 3);
     } while (record.trimmed().isEmpty());
-
-    bool quoteOpen = false;
-    while (!parse(record, fields, quoteOpen)) {
-        QByteArray more;
-        if (!quoteOpen)
-            return false;
-        if (record.size() > LineReader::longestLine || !readLine(more)) {
-            m_error = u"a quoted field does not end"_s;
-            return false;
-        }
-        record += '\n' + more;
-    }
-    return true;
+    return parse(record, fields);
 }
 
-// False when the record is not whole (quoteOpen) or no CSV.
-bool CsvReader::parse(const QByteArray& text, QStringList& fields, bool& quoteOpen)
+// False when the record is no CSV.
+bool CsvReader::parse(QByteArray& record, QStringList& fields)
 {
     fields.clear();
-    quoteOpen = false;
-    QByteArray line = text;
-    if (line.endsWith('\r'))
-        line.chop(1);
-    qsizetype place = 0;
-    do {
+    for (qsizetype place = 0;; ++place) { // over the comma
         QByteArray field;
-        if (place < line.size() && line[place] == '"') {
-            for (++place;; ++place) {
-                if (place >= line.size()) {
-                    quoteOpen = true;
-                    return false;
-                }
-                if (line[place] != '"')
-                    field += line[place];
-                else if (place + 1 < line.size() && line[place + 1] == '"')
-                    field += line[++place];
-                else
-                    break;
-            }
-            if (++place < line.size() && line[place] != ',') {
-                m_error = u"a quoted field ends inside the text"_s;
+        if (place < record.size() && record[place] == '"') {
+            if (!takeQuoted(record, place, field))
                 return false;
-            }
         } else {
-            const qsizetype comma = line.indexOf(',', place);
-            field = line.mid(place, comma < 0 ? -1 : comma - place);
-            place += field.size();
+            const qsizetype comma = record.indexOf(',', place);
+            const qsizetype end = comma < 0 ? endOf(record) : comma;
+            field = record.mid(place, end - place);
+            place = end;
         }
         QStringDecoder decoder(QStringDecoder::Utf8);
         fields.append(decoder(field));
@@ -87,7 +63,38 @@ bool CsvReader::parse(const QByteArray& text, QStringList& fields, bool& quoteOp
             m_error = u"the text is no UTF-8"_s;
             return false;
         }
-    } while (place < line.size() ? (++place, true) : false);
+        if (place >= endOf(record))
+            return true;
+    }
+}
+
+// From the opening quote to behind the closing one, over as many lines as it takes.
+bool CsvReader::takeQuoted(QByteArray& record, qsizetype& place, QByteArray& field)
+{
+    for (++place;; ++place) {
+        if (place >= record.size() && !appendLine(record))
+            return false;
+        if (record[place] != '"')
+            field += record[place];
+        else if (place + 1 < record.size() && record[place + 1] == '"')
+            field += record[++place];
+        else
+            break;
+    }
+    if (++place >= endOf(record) || record[place] == ',')
+        return true;
+    m_error = u"a quoted field ends inside the text"_s;
+    return false;
+}
+
+bool CsvReader::appendLine(QByteArray& record)
+{
+    QByteArray more;
+    if (record.size() > LineReader::longestLine || !readLine(more)) {
+        m_error = u"a quoted field does not end"_s;
+        return false;
+    }
+    record.append('\n').append(more);
     return true;
 }
 

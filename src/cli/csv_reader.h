@@ -20,7 +20,9 @@ public:
 
 private:
     bool readLine(QByteArray& text);
-    bool parse(const QByteArray& text, QStringList& fields, bool& quoteOpen);
+    bool parse(QByteArray& record, QStringList& fields);
+    bool takeQuoted(QByteArray& record, qsizetype& place, QByteArray& field);
+    bool appendLine(QByteArray& record);
 
     LineReader m_lines;
     qint64 m_recordLine = 0;

@@ -90,6 +90,7 @@ static int run(const QStringList& words)
 
 int main(int argc, char** argv)
 {
+    zelvor::holdStandardStreams();
     zelvor::ignoreFileSizeSignals();
     QStringList words;
     for (int i = 1; i < argc; ++i)

@@ -55,7 +55,7 @@ QString OperationReader::text(const QString& key)
     if (!found.isUndefined() && !found.isString())
         wrongKind(key, "a text");
     else if (!isStorableText(found.toString()))
-        wrongKind(key, "a text without the character NUL");
+        wrongKind(key, "a text of whole characters, without NUL");
     return found.toString();
 }
 

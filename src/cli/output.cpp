@@ -3,8 +3,18 @@
 #include "cli/json_writer.h"
 
 #include <cstdio>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace zelvor {
+
+void holdStandardStreams()
+{
+    for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
+        if (::fcntl(stream, F_GETFD) < 0)
+            ::open("/dev/null", (stream == STDIN_FILENO ? O_WRONLY : O_RDONLY));
+    }
+}
 
 void writeError(const QString& line)
 {

@@ -50,8 +50,8 @@ void checkNumbers(Connector& connector, const TableInfo& table, Findings& findin
         if (column.kind == ColumnKind::Text)
             continue;
         columns.push_back(&column);
-        shown += "," + badNumber(column);
-        condition += (condition.empty() ? " WHERE " : " OR ") + badNumber(column);
+        shown.append(",").append(badNumber(column));
+        condition.append(condition.empty() ? " WHERE " : " OR ").append(badNumber(column));
     }
     if (columns.empty())
         return;

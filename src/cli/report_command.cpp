@@ -4,6 +4,7 @@
 #include "cli/report.h"
 #include "cli/report_printer.h"
 
+#include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
 
 #include <algorithm>
@@ -72,9 +73,11 @@ int printTo(const ReportSink& sink, const ReportTable& table, bool asText, const
     return printed ? exitDone : exitRefused;
 }
 
-// Whole or not at all.
+// Whole or not at all. The finished file takes the place of the old one, so a device must not stand there.
 int printToFile(const QString& path, const ReportTable& table, bool asText, const Calendar& calendar)
 {
+    if (const QFileInfo old(path); old.exists() && !old.isFile() && !old.isDir())
+        return badUsage(u"cannot write "_s + path + u": it is not a regular file"_s);
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return badUsage(u"cannot write "_s + path + u": "_s + file.errorString());

@@ -354,8 +354,8 @@ double Decimal::toDouble() const
         return static_cast<double>(static_cast<std::int64_t>(m_coefficient)) /
                exactPowers[static_cast<std::size_t>(m_scale)];
     }
-    const std::string text =
-        (isNegative() ? "-" : "") + digitsText(magnitude(m_coefficient)) + "e-" + std::to_string(m_scale);
+    std::string text = isNegative() ? "-" : "";
+    text.append(digitsText(magnitude(m_coefficient))).append("e-").append(std::to_string(m_scale));
     double value = 0;
     std::from_chars(text.data(), text.data() + text.size(), value);
     return value;

@@ -258,6 +258,19 @@ TEST_F(Replay, anOperationWithoutADateComesRightAfterTheOneBefore)
     EXPECT_EQ(valueOf("SELECT max(date)-min(date) FROM money_doc WHERE doc_type_id=4"), "1");
 }
 
+TEST_F(Replay, aLineThatIsNoOperationTakesNoTime)
+{
+    createShop();
+    const QByteArray rent = R"("expend":1,"sum":1,"confirm":true)";
+    const CliRun result = apply(document("MoneyToExpend", R"("date":"2024-01-05T12:00:00",)" + rent) + '\n' +
+                                    document("MoneyToExpend", R"("date":"2025-01-05","colour":1,)" + rent) +
+                                    '\n' + document("MoneyToExpend", rent) + '\n',
+                                {"--replay"});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(valueOf("SELECT count(*)||' '||(max(date)-min(date)) FROM money_doc WHERE doc_type_id=4"),
+              "2 1");
+}
+
 TEST_F(Replay, withoutItNowIsTheClockOfTheMachine)
 {
     createShop();

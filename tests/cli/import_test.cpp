@@ -1,5 +1,7 @@
 #include "cli/cli_test.h"
 
+#include <QtCore/QElapsedTimer>
+
 namespace zelvor {
 
 class ImportCommand : public CliTest {
@@ -37,6 +39,23 @@ TEST_F(ImportCommand, takesQuotedLineBreaksWindowsLinesAndTheMarkOfUtf8)
               0);
     EXPECT_EQ(valueOf("SELECT name||'|'||address FROM contragent WHERE id=2"),
               "J\xc3\xbcrgen|1 Main St\nTown");
+}
+
+TEST_F(ImportCommand, keepsTheLinesOfAQuotedFieldAsTheyAre)
+{
+    EXPECT_EQ(import("Contragent", "name,address\r\n\"A\r\n\"\"B\"\"\r\n\",\"\"\r\nC,\r\n").exitCode, 0);
+    EXPECT_EQ(valueOf("SELECT group_concat(hex(name)||'/'||address) FROM contragent WHERE id>1"),
+              "410D0A2242220D0A/,43/");
+}
+
+TEST_F(ImportCommand, aQuoteThatStaysOpenCostsOnePassOverTheFile)
+{
+    QElapsedTimer timer;
+    timer.start();
+    const CliRun result = import("Contragent", "name\n\"A\n" + QByteArray("x\n").repeated(500'000));
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_TRUE(result.err.contains("line 2: ")) << result.err.constData();
+    EXPECT_LT(timer.elapsed(), 60'000); // ms; a pass for each line would take hours
 }
 
 TEST_F(ImportCommand, aRecordsGroupMayStandFurtherUpInTheFile)

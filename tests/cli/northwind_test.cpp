@@ -75,22 +75,4 @@ TEST_F(Northwind, aFirstLoadInBulkGivesTheSameBooks)
     }
 }
 
-// The sample businesses that come with the program.
-class Samples : public CliTest {};
-
-TEST_F(Samples, areAcceptedWholeAndLeaveSoundBooks)
-{
-    const QDir folder(ZELVOR_SOURCE_DIR "/samples");
-    const QStringList names = folder.entryList({"*.jsonl"});
-    ASSERT_FALSE(names.isEmpty());
-    for (const QString& name : names) {
-        project = file(name + ".pdb");
-        createProject();
-        const CliRun result = run({"apply", project, folder.filePath(name), "--replay"});
-        EXPECT_EQ(result.exitCode, 0) << qPrintable(name);
-        EXPECT_FALSE(result.out.contains("\"ok\":false")) << qPrintable(name);
-        EXPECT_EQ(run({"check", project}).out, "[]\n") << qPrintable(name);
-    }
-}
-
 } // namespace zelvor

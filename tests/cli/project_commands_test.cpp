@@ -147,6 +147,23 @@ TEST_F(CommandLine, writersWaitForNobodyWhileReadersMayLook)
     EXPECT_EQ(run({"apply", project}).exitCode, 0);
 }
 
+TEST_F(CommandLine, aClosedStandardStreamIsNoFileOfTheProject)
+{
+    createProject();
+    const auto runClosed = [this](const QByteArray& redirection, const QStringList& words) {
+        QProcess process;
+        prepare(process);
+        process.start("sh", QStringList{"-c", "exec \"$0\" \"$@\" " + redirection, ZELVOR_CLI} + words);
+        EXPECT_TRUE(process.waitForFinished(30'000));
+        return process.exitCode();
+    };
+    const QByteArray before = read(project);
+    EXPECT_EQ(runClosed("<&-", {"apply", project}), 2);
+    EXPECT_EQ(runClosed(">&-", {"info", project}), 1);
+    EXPECT_EQ(runClosed("<&- >&- 2>&-", {"info", file("missing.pdb")}), 2);
+    EXPECT_EQ(read(project), before);
+}
+
 TEST_F(CommandLine, tellsItsVersionAndHelp)
 {
     EXPECT_TRUE(run({"--version"}).out.startsWith("zelvor-cli "));
@@ -178,6 +195,8 @@ TEST_F(CommandLine, refusesBadUsageWithOneLine)
         {"report", "period-sell", project, "--products", "1,x"},
         {"report", "period-sell", project, "--sort", "colour"},
         {"report", "journal", project, "--kind", "money", "--type", "SellProduct"},
+        {"report", "journal", project, "--from", "2024-02-01", "--to", "2024-01-31"},
+        {"report", "period-sell", project, "--from", "2024-02-01", "--to", "2024-01-31"},
         {"report", "balance", project, "-o", project},
         {"apply", project, project},
         {"apply", project, file("missing.jsonl")},

@@ -1,5 +1,9 @@
 #include "cli/cli_test.h"
 
+#include <QtCore/QFileInfo>
+
+#include <sys/stat.h>
+
 namespace zelvor {
 
 // The shop with three sales in January 2024.
@@ -149,6 +153,16 @@ TEST_F(ReportCommand, aFileIsWrittenWholeOrNotAtAll)
     EXPECT_EQ(read(file("balance.json")), out);
     EXPECT_EQ(run({"report", "balance", project, "-o", file("nowhere/balance.json")}).exitCode, 2);
     EXPECT_EQ(QDir(m_folder.path()).entryList({"balance*"}), QStringList{"balance.json"});
+}
+
+TEST_F(ReportCommand, aFileThatIsNoRegularOneIsLeftAsItIs)
+{
+    const QString pipe = file("pipe");
+    ASSERT_EQ(::mkfifo(qPrintable(pipe), 0600), 0);
+    const CliRun refused = run({"report", "balance", project, "-o", pipe});
+    EXPECT_EQ(refused.exitCode, 2);
+    EXPECT_TRUE(refused.saysOneLine()) << refused.err.constData();
+    EXPECT_TRUE(QFileInfo(pipe).exists() && !QFileInfo(pipe).isFile());
 }
 
 TEST_F(ReportCommand, aTextThatCannotBeWrittenIsARefusal)
