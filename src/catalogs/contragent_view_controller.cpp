@@ -243,18 +243,22 @@ void ContragentViewController::bindLeaf(Contragent& contragent)
     contragentComment.setText(contragent.comment);
 }
 
-void ContragentViewController::backBindLeaf(Contragent& contragent)
+bool ContragentViewController::backBindLeaf(Contragent& contragent)
 {
+    // Behind the lock the balance is the documents' affair: one may have changed it since the popover opened.
+    if (contragentBalance.enabled()) {
+        contragent.setBalance(contragentBalance.real());
+    } else {
+        const auto stored = appDelegate.connector.select<Contragent>(contragent.id, Fill::Nothing);
+        if (!stored)
+            return false;
+        contragent.innerBalance = stored->innerBalance;
+    }
     contragent.name = contragentName.text();
     contragent.parentID = contragentGroupSelect.selectedTag();
     contragent.parentContragentID = contragentParentContragentSelect.selectedTag();
     contragent.managerID = contragentManagerSelect.selectedTag();
     contragent.setDiscount(contragentDiscount.real());
-    // Behind the lock the balance is the documents' affair: one may have changed it since the popover opened.
-    if (contragentBalance.enabled())
-        contragent.setBalance(contragentBalance.real());
-    else if (const auto stored = appDelegate.connector.select<Contragent>(contragent.id, Fill::Nothing))
-        contragent.innerBalance = stored->innerBalance;
     contragent.deferment = contragentDefermentSlider.value();
     contragent.address = contragentAddress.text();
     contragent.city = contragentCity.text();
@@ -264,6 +268,7 @@ void ContragentViewController::backBindLeaf(Contragent& contragent)
     contragent.vatNumber = contragentVatNumber.text();
     contragent.comment = contragentComment.text();
     contragent.manager = getManagerWithID(contragent.managerID);
+    return true;
 }
 
 // What a cancelled addition left behind does not keep the next edit from OK.

@@ -97,7 +97,7 @@ protected:
     void bindGroup(ContragentGroup& group) override;
     void bindLeaf(Contragent& contragent) override;
     void backBindGroup(ContragentGroup& group) override;
-    void backBindLeaf(Contragent& contragent) override;
+    bool backBindLeaf(Contragent& contragent) override;
     void clearGroup() override;
     void clearLeaf() override;
     void closeLocks() override;

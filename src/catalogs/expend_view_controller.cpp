@@ -63,13 +63,14 @@ void ExpendViewController::bindLeaf(Expend& expend)
     expendHiddenCheckBox.setOn(expend.isHidden);
 }
 
-void ExpendViewController::backBindLeaf(Expend& expend)
+bool ExpendViewController::backBindLeaf(Expend& expend)
 {
     expend.name = expendName.text();
     expend.parentID = expendGroupSelect.selectedTag();
     expend.descriptionString = expendDescription.text();
     expend.isConstant = expendConstantCheckBox.isOn();
     expend.isHidden = expendHiddenCheckBox.isOn();
+    return true;
 }
 
 void ExpendViewController::postChanged()

@@ -59,7 +59,7 @@ protected:
     void bindGroup(ExpendType& type) override;
     void bindLeaf(Expend& expend) override;
     void backBindGroup(ExpendType& type) override;
-    void backBindLeaf(Expend& expend) override;
+    bool backBindLeaf(Expend& expend) override;
     QString titleOfEdited(bool group) const override;
     void postChanged() override;
     void postUpdated() override {}

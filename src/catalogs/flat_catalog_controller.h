@@ -119,8 +119,12 @@ void FlatCatalogController<Record>::writeForm()
     // The popover may have stood open while a document changed a balance: its fields go onto the record as
     // it is stored now.
     if (focusedObject->id != 0) {
-        if (auto stored = this->appDelegate.connector.template select<Record>(focusedObject->id))
-            focusedObject = std::move(stored);
+        focusedObject = this->appDelegate.connector.template select<Record>(focusedObject->id);
+        if (!focusedObject) { // what the popover showed may be out of date, so it is not stored
+            this->markStale();
+            closeForm();
+            return;
+        }
     }
     backBindFields();
     this->writeRecord(std::shared_ptr<Record>(focusedObject));

@@ -322,25 +322,30 @@ void ProductViewController::bindLeaf(Product& product)
     productDescription.setText(product.descriptionString);
 }
 
-void ProductViewController::backBindLeaf(Product& product)
+bool ProductViewController::backBindLeaf(Product& product)
 {
+    // Behind the lock the cost is the documents' affair: one may have changed it since the popover opened.
+    if (productBaseCost.enabled()) {
+        product.setBaseCost(productBaseCost.real());
+    } else {
+        const auto stored = appDelegate.connector.select<Product>(product.id, Fill::Nothing);
+        if (!stored)
+            return false;
+        product.innerBaseCost = stored->innerBaseCost;
+    }
     product.name = productName.text();
     product.parentID = productGroupSelect.selectedTag();
     product.isIntangible = productIsIntangibleCheckBox.isOn();
     product.measurementID = productMeasurementSelect.selectedTag();
     product.packID = productPackSelect.selectedTag();
     product.setPackAmount(productPackAmount.real());
-    // Behind the lock the cost is the documents' affair: one may have changed it since the popover opened.
-    if (productBaseCost.enabled())
-        product.setBaseCost(productBaseCost.real());
-    else if (const auto stored = appDelegate.connector.select<Product>(product.id, Fill::Nothing))
-        product.innerBaseCost = stored->innerBaseCost;
     product.setPriceCost(productPriceCost.real());
     product.setVatRate(productVatRate.real());
     product.setGstRate(productGstRate.real());
     product.descriptionString = productDescription.text();
     product.measurement = getMeasurementWithID(product.measurementID);
     product.pack = getMeasurementWithID(product.packID);
+    return true;
 }
 
 void ProductViewController::clearLeaf()

@@ -111,7 +111,7 @@ protected:
     void bindGroup(ProductGroup& group) override;
     void bindLeaf(Product& product) override;
     void backBindGroup(ProductGroup& group) override;
-    void backBindLeaf(Product& product) override;
+    bool backBindLeaf(Product& product) override;
     void clearLeaf() override;
     void closeLocks() override;
     QString titleOfEdited(bool group) const override;

@@ -87,7 +87,8 @@ protected:
     virtual void bindGroup(Group& group) = 0;
     virtual void bindLeaf(Leaf& leaf) = 0;
     virtual void backBindGroup(Group& group) = 0;
-    virtual void backBindLeaf(Leaf& leaf) = 0;
+    // False when what documents keep in the record could not be read: then nothing is stored.
+    virtual bool backBindLeaf(Leaf& leaf) = 0;
     // What an emptied popover shows beside an empty title and error.
     virtual void clearGroup() {}
     virtual void clearLeaf() {}
@@ -144,10 +145,10 @@ protected:
         if (const auto group = std::dynamic_pointer_cast<Group>(focusedObject))
             backBindGroup(*group);
     }
-    void backBindLeafFields()
+    bool backBindLeafFields()
     {
-        if (const auto leaf = std::dynamic_pointer_cast<Leaf>(focusedObject))
-            backBindLeaf(*leaf);
+        const auto leaf = std::dynamic_pointer_cast<Leaf>(focusedObject);
+        return !leaf || backBindLeaf(*leaf);
     }
 
     // To be called at the end of a constructor.
@@ -386,8 +387,14 @@ void TreeCatalogController<Model, Group, Leaf>::write()
         return;
     const bool group = record->isGroup();
     const bool isNew = record->id == 0;
-    group ? backBindGroupFields() : backBindLeafFields();
-    const bool stored = writeRecord(record);
+    bool bound = true;
+    if (group)
+        backBindGroupFields();
+    else
+        bound = backBindLeafFields();
+    const bool stored = bound && writeRecord(record);
+    if (!bound)
+        takenBack();
     group ? clearGroupForm() : clearLeafForm();
     (group ? groupForm() : leafForm()).popover.close();
     focusedObject.reset();
