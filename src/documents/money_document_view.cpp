@@ -261,11 +261,10 @@ void MoneyDocumentView::calculateExchange()
 
 void MoneyDocumentView::accountFromSumEdited()
 {
-    if (docSum.isEmpty())
-        docSum.setValue(0);
-    if (m_controller.sumToEnabled() && !docSum.value().isZero()) {
+    // What is shown and reckoned with is what will be stored. An empty field is 0.
+    docSum.setValue(docSum.value().rounded(MoneyDocument::decimalHandler));
+    if (m_controller.sumToEnabled() && !docSum.value().isZero())
         setReceivedSum(docSum.value().times(document().innerExchangeRate, MoneyDocument::decimalHandler));
-    }
     docSumChanged();
 }
 
@@ -283,8 +282,9 @@ void MoneyDocumentView::accountToSumEdited()
 // The document holds what the field shows, so that a draft keeps a received sum that was typed.
 void MoneyDocumentView::setReceivedSum(const Decimal& sum)
 {
-    docSumTo.setValue(sum);
-    document().innerConvertedSum = sum.rounded(MoneyDocument::decimalHandler);
+    const Decimal kept = sum.rounded(MoneyDocument::decimalHandler);
+    docSumTo.setValue(kept);
+    document().innerConvertedSum = kept;
 }
 
 void MoneyDocumentView::docSumChanged()

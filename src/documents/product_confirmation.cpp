@@ -121,12 +121,25 @@ void ProductDocumentViewController::postConfirmed()
     std::ranges::for_each(Confirmation::of(document->docType())->notifications, post);
 }
 
+namespace {
+
+// The record as the file holds it now; of one that is gone a copy, so that a refusal leaves what is shown.
+template <class Record>
+std::shared_ptr<Record> readAgain(Connector& connector, const Link<Record>& shown)
+{
+    const auto read = connector.select<Record>(shown->id, Fill::Nothing);
+    return read ? read : std::make_shared<Record>(*shown);
+}
+
+} // namespace
+
 // What the steps read and change is what the file holds now, whatever the form has shown: another form or
 // another program may have confirmed in the meantime.
 void ProductDocumentViewController::readAnew()
 {
     Connector& connector = appDelegate.connector;
-    if (const auto contragent = connector.select<Contragent>(document->contragentID, Fill::Nothing)) {
+    if (!document->contragent.isEmpty()) {
+        const auto contragent = readAgain(connector, document->contragent);
         contragent->manager = document->contragent->manager;
         document->insertContragent(contragent);
     }
@@ -135,11 +148,12 @@ void ProductDocumentViewController::readAnew()
         const auto sameProduct = [&row](const auto& other) { return other->productID == (*row)->productID; };
         if (const auto earlier = std::find_if(rows.begin(), row, sameProduct); earlier != row) {
             (*row)->product = (*earlier)->product;
-        } else if (const auto product = connector.select<Product>((*row)->productID, Fill::Nothing)) {
-            product->measurement = (*row)->product->measurement;
-            product->pack = (*row)->product->pack;
-            (*row)->product = Link<Product>(product);
+            continue;
         }
+        const auto product = readAgain(connector, (*row)->product);
+        product->measurement = (*row)->product->measurement;
+        product->pack = (*row)->product->pack;
+        (*row)->product = Link<Product>(product);
     }
 }
 

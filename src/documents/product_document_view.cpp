@@ -39,8 +39,8 @@ void ProductDocumentView::bindFields()
     form.contragentDiscountSlider.onUserChange = [this] { discountChanged(); };
     form.shipment.onUserChange = [this] {
         NumberField& shipment = m_controller.shipment;
-        if (shipment.isEmpty())
-            shipment.setValue(Decimal(0));
+        // What is added up is what will be stored. An empty field is 0.
+        shipment.setValue(shipment.value().rounded(ProductDocument::decimalHandler));
         shipmentChanged();
     };
     saveButton.onUserChange = [this] { m_controller.writeDoc(); };

@@ -5,6 +5,7 @@
 #include "catalogs/product_view_controller.h"
 #include "core/localized.h"
 #include "documents/product_document_restore.h"
+#include "documents/visible_record.h"
 #include "store/user_write.h"
 
 #include <algorithm>
@@ -199,10 +200,7 @@ void ProductDocumentViewController::clearContragent()
 
 bool ProductDocumentViewController::setContragentFromID(qint64 contragentID)
 {
-    auto contragent = appDelegate.connector.select<Contragent>(contragentID, Fill::Nothing);
-    if (contragent && contragent->isHidden)
-        contragent.reset();
-    setNewContragent(contragent);
+    setNewContragent(visibleRecord<Contragent>(appDelegate.connector, contragentID));
     return document->contragentID == contragentID;
 }
 
@@ -210,7 +208,7 @@ bool ProductDocumentViewController::setManagerFromID(qint64 managerID)
 {
     if (!isEditable())
         return false;
-    document->insertManager(appDelegate.connector.select<Manager>(managerID, Fill::Nothing));
+    document->insertManager(visibleRecord<Manager>(appDelegate.connector, managerID));
     return document->managerID == managerID;
 }
 

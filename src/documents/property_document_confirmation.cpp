@@ -44,7 +44,7 @@ bool PropertyDocumentViewController::confirmDoc()
     const PropertyDocument before = *document;
     UserWrite write(appDelegate.connector);
     document->innerDocSum = docSum.value().rounded(PropertyDocument::decimalHandler);
-    if (!checkStoredDraft<PropertyDocument>() || !readAnew() || !runSteps()) {
+    if (!checkStoredDraft<PropertyDocument>() || !readAnew() || !runSteps() || !readProperty()) {
         write.fail();
     } else {
         finalizeDocument();
@@ -69,8 +69,7 @@ bool PropertyDocumentViewController::confirmDoc()
     return confirmed;
 }
 
-// What the confirmation will change, as it stands in the file. A new asset is copied, so that the form's own
-// stays as it was typed when the confirmation fails.
+// The counterparty that the confirmation will change, as it stands in the file.
 bool PropertyDocumentViewController::readAnew()
 {
     Connector& connector = appDelegate.connector;
@@ -83,6 +82,14 @@ bool PropertyDocumentViewController::readAnew()
         }
         document->insertContragent(contragent);
     }
+    return true;
+}
+
+// Behind the check of the date: a month that it closes depreciates the asset. A new asset is copied, so that
+// the form's own stays as it was typed when the confirmation fails.
+bool PropertyDocumentViewController::readProperty()
+{
+    Connector& connector = appDelegate.connector;
     if (propertyTextEnabled()) {
         document->property = Link<Property>(std::make_shared<Property>(*document->property));
         return true;

@@ -79,6 +79,7 @@ public:
 private:
     struct Confirmation; // the steps by type, and what is told afterwards
     bool readAnew();
+    bool readProperty();
     bool runSteps();
     bool checkDate();
     bool checkProductDocs();

@@ -264,6 +264,21 @@ TEST_F(Transfer, typingTheSumFollowsTheRateTypingTheReceivedSumOverrulesIt)
     EXPECT_EQ(view.docSumTo.real(), 122.46);
 }
 
+TEST_F(Transfer, reckonsWithTheSumsThatAreStored)
+{
+    view.setAccountFromID(dollars->id);
+    view.setAccountToID(pounds->id);
+    enter(view.docSum, 10.006);
+    EXPECT_EQ(view.docSum.value(), form->document->innerDocSum);
+    EXPECT_EQ(view.docSumTo.real(), 6.01) << "10.01 leave, not 10.006";
+    view.setAccountToID(pounds->id);
+    EXPECT_EQ(view.docSumTo.real(), 6.01);
+    enter(view.docSum, 1);
+    enter(view.docSumTo, 0.618);
+    EXPECT_EQ(view.docSumTo.value(), form->document->innerConvertedSum);
+    EXPECT_EQ(form->document->exchangeRate(), 0.62) << "0.62 arrive";
+}
+
 TEST_F(Transfer, toTheSameAccountIsMissingItsTarget)
 {
     view.setAccountFromID(dollars->id);

@@ -722,6 +722,28 @@ TEST(Confirmation, balancesAndCostsAreReadAnewInsideTheTransaction)
     EXPECT_EQ(second->document->contragentBalance(), 60);
 }
 
+TEST(Confirmation, aRefusalLeavesACounterpartyThatIsGoneAsItWasShown)
+{
+    TeaShop shop;
+    shop.setBalance(30);
+    const auto form = shop.formWithTea(DocType::SellIntangibles, 1, 50);
+    ASSERT_EQ(shop.db.remove(*shop.acme), 1);
+    expectRefused(shop, *form, u"Failed to change contragent's balance.\nCan't confirm document.\n"_s);
+    EXPECT_EQ(form->document->contragent->balance(), 30);
+    EXPECT_EQ(form->contragentBalance.real(), 30);
+}
+
+TEST(Confirmation, aRefusalLeavesAProductThatIsGoneAsItWasShown)
+{
+    TeaShop shop;
+    const auto form = shop.formWithTea(DocType::BuyProduct, 10, 8);
+    const double cost = form->document->documentRows[0]->product->baseCost();
+    ASSERT_NE(cost, 8);
+    ASSERT_EQ(shop.db.remove(*shop.tea), 1);
+    expectRefused(shop, *form, u"Failed to change product's base cost\nCan't confirm document.\n"_s);
+    EXPECT_EQ(form->document->documentRows[0]->product->baseCost(), cost);
+}
+
 TEST(Confirmation, bothTaxesShareTheOneField)
 {
     TeaShop shop;

@@ -112,6 +112,10 @@ TEST(ProductForm, aHiddenOrUnknownRecordIsNotTaken)
     const auto manager = shop.employee(u"Ann"_s);
     EXPECT_TRUE(form->setManagerFromID(manager->id));
     EXPECT_EQ(form->document->managerName(), u"Ann"_s);
+    manager->isHidden = true;
+    shop.store(*manager);
+    EXPECT_FALSE(form->setManagerFromID(manager->id));
+    EXPECT_EQ(form->document->managerID, 0);
 }
 
 TEST(ProductForm, choosingACounterpartyFillsDefermentAndDiscount)
@@ -385,6 +389,21 @@ TEST(ProductForm, anEmptiedShipmentIsZero)
 }
 
 // Discount
+
+TEST(ProductForm, addsUpTheShipmentThatIsStored)
+{
+    TeaShop shop;
+    const auto form = shop.formWithTea(DocType::BuyProduct, 1, 10);
+    EXPECT_TRUE(form->setRowValue(0, u"price"_s, Decimal::fromText(u"10.01")));
+    form->shipment.setValue(Decimal::fromText(u"1.005"));
+    EXPECT_TRUE(form->shipment.userChanged());
+    EXPECT_EQ(form->balanceDue.real(), 11.01);
+    ASSERT_TRUE(form->confirmDoc());
+    const auto stored = shop.read(*form->document);
+    EXPECT_EQ(stored->docSum(), 11.01);
+    EXPECT_EQ(stored->shipment(), 1);
+    EXPECT_EQ(stored->subtotal().toDouble(), 10.01);
+}
 
 TEST(ProductForm, switchingTheCounterpartyPricesAllRowsAnew)
 {

@@ -71,6 +71,20 @@ protected:
     std::shared_ptr<Property> van = books.property(u"Van"_s, 900, 36);
 };
 
+TEST_F(FixedAssets, aMonthClosedOnTheWayDepreciatesTheAssetThatGoes)
+{
+    books.changeParams([](Params& params) { params.lastPeriodSaved = 202309; });
+    for (const DocType type : {SellProperty, DeleteProperty}) {
+        const auto truck = books.property(u"Truck"_s, 1200, 12);
+        const auto form = filled(type, 500);
+        ASSERT_TRUE(form->setPropertyFromID(truck->id));
+        ASSERT_TRUE(form->confirmDoc());
+        EXPECT_EQ(books.read(*truck)->currentCost(), 1100);
+        EXPECT_NE(books.read(*truck)->soldDate, 0);
+        books.changeParams([](Params& params) { params.lastPeriodSaved = 202309; });
+    }
+}
+
 TEST_F(FixedAssets, eachTypeShowsItsInputs)
 {
     struct Shows {
