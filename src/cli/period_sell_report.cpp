@@ -76,6 +76,8 @@ int run(AppDelegate& appDelegate, const Arguments& arguments, const Report::Prin
     const SortOrder order = sortOrder(given, arguments);
     if (!given.error().isEmpty())
         return badUsage(given.error());
+    // A period that ends before it begins is computed by nobody, and still asked for under its own dates.
+    view.setName(report.getNameForTabView());
     report.prepareReport();
     if (!order.key.isEmpty())
         view.sort(order.key, order.ascending);

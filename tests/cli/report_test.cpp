@@ -58,6 +58,18 @@ TEST_F(ReportCommand, theBalanceHasGroupsItemsAndTwoClosingRows)
         EXPECT_NE(row["kind"].toString(), "item");
 }
 
+TEST_F(ReportCommand, aPeriodThatEndsBeforeItBeginsHasNoRowsAndItsOwnTitle)
+{
+    for (const char* name : {"period-sell", "journal"}) {
+        const QJsonObject empty = report({name, "--from", "2024-02-01", "--to", "2024-01-15"});
+        EXPECT_TRUE(empty["rows"].toArray().isEmpty());
+        EXPECT_TRUE(empty["title"].toString().contains("1 Feb 2024"))
+            << qPrintable(empty["title"].toString());
+        EXPECT_TRUE(empty["title"].toString().contains("16 Jan 2024"))
+            << qPrintable(empty["title"].toString());
+    }
+}
+
 TEST_F(ReportCommand, salesByProductGatherInTheirGroups)
 {
     const QJsonObject report = sales({"--by", "products"});
