@@ -18,6 +18,29 @@ void DocumentModel::insertContragent(const std::shared_ptr<Contragent>& record)
     contragentID = record ? record->id : 0;
 }
 
+QVariant DocumentModel::valueForIdentifier(QStringView key) const
+{
+    if (key == u"number")
+        return docNumber;
+    if (key == u"date")
+        return date;
+    if (key == u"confirmed")
+        return confirmed;
+    if (key == u"correction")
+        return correction;
+    if (key == u"journalName")
+        return journalName();
+    if (key == u"sum")
+        return docSum();
+    if (key == u"contragent")
+        return contragentName();
+    if (key == u"manager")
+        return managerName();
+    if (key == u"comment")
+        return comment;
+    return QString();
+}
+
 QString DocumentModel::titleStart() const
 {
     return titleOpener() + docTypeName(docType());

@@ -56,6 +56,8 @@ public:
     // "Product Document 'Sale' #12 (read)", as the form and its tab show it; " (write)" until confirmed.
     QString name() const;
     Color titleFontColor() const { return confirmed ? inOrderColor : redColor; }
+    // The columns of a journal that all kinds fill alike.
+    QVariant valueForIdentifier(QStringView key) const override;
 
 protected:
     // "Product Document '", localised.

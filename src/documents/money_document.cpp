@@ -1,6 +1,7 @@
 #include "documents/money_document.h"
 
 #include "core/localized.h"
+#include "documents/document_columns.h"
 
 #include <QtCore/QStringBuilder>
 
@@ -47,50 +48,17 @@ QString MoneyDocument::journalNameFrom(const QString& start) const
 
 QVariant MoneyDocument::valueForIdentifier(QStringView key) const
 {
-    if (key == u"number")
-        return docNumber;
-    if (key == u"date")
-        return date;
-    if (key == u"confirmed")
-        return confirmed;
-    if (key == u"correction")
-        return correction;
-    if (key == u"journalName")
-        return journalName();
-    if (key == u"sum")
-        return docSum();
-    if (key == u"contragent")
-        return contragentName();
     if (key == u"stockFrom")
         return accountFrom->name;
     if (key == u"stockTo")
         return accountTo->name;
-    if (key == u"manager")
-        return managerName();
-    if (key == u"comment")
-        return comment;
-    return QString();
+    return DocumentModel::valueForIdentifier(key);
 }
 
 const TableInfo& MoneyDocument::table()
 {
     using Document = MoneyDocument;
-    static constexpr ColumnInfo columns[] = {
-        integerColumn<&Document::docTypeID>("doc_type_id"),
-        integerColumn<&Document::date>("date"),
-        integerColumn<&Document::docNumber>("doc_number"),
-        integerColumn<&Document::contragentID>("contragent_id"),
-        realColumn<Document, &Document::docSum, &Document::setDocSum>("doc_sum"),
-        integerColumn<&Document::managerID>("manager_id"),
-        textColumn<&Document::comment>("comment"),
-        booleanColumn<&Document::confirmed>("is_confirmed"),
-        booleanColumn<&Document::correction>("is_correction"),
-        integerColumn<&Document::parentDocID>("parent_doc_id"),
-        integerColumn<&Document::parentDocTypeID>("parent_doc_type_id"),
-        integerColumn<&Document::payToDate>("pay_to_date"),
-        realColumn<Document, &Document::leftToPay, &Document::setLeftToPay>("left_to_pay"),
-        realColumn<Document, &Document::contragentBalance, &Document::setContragentBalance>(
-            "contragent_balance"),
+    static constexpr auto columns = withDocumentColumns({
         integerColumn<&Document::accountFromID>("account_from_id"),
         integerColumn<&Document::accountToID>("account_to_id"),
         booleanColumn<&Document::loans>("is_loans"),
@@ -105,7 +73,7 @@ const TableInfo& MoneyDocument::table()
         realColumn<Document, &Document::accountToBalance, &Document::setAccountToBalance>(
             "account_to_balance"),
         realColumn<Document, &Document::managerBalance, &Document::setManagerBalance>("manager_balance"),
-    };
+    });
     static constexpr LinkInfo links[] = {
         linkOf<&Document::managerID, &Document::manager>(),
         linkOf<&Document::contragentID, &Document::contragent>(),

@@ -1,6 +1,7 @@
 #include "documents/product_document.h"
 
 #include "core/localized.h"
+#include "documents/document_columns.h"
 
 #include <QtCore/QStringBuilder>
 
@@ -42,50 +43,17 @@ QString ProductDocument::journalNameFrom(const QString& start) const
 
 QVariant ProductDocument::valueForIdentifier(QStringView key) const
 {
-    if (key == u"number")
-        return docNumber;
-    if (key == u"date")
-        return date;
-    if (key == u"confirmed")
-        return confirmed;
-    if (key == u"correction")
-        return correction;
-    if (key == u"journalName")
-        return journalName();
-    if (key == u"sum")
-        return docSum();
-    if (key == u"contragent")
-        return contragentName();
     if (key == u"stockFrom")
         return stockFromName();
     if (key == u"stockTo")
         return stockToName();
-    if (key == u"manager")
-        return managerName();
-    if (key == u"comment")
-        return comment;
-    return QString();
+    return DocumentModel::valueForIdentifier(key);
 }
 
 const TableInfo& ProductDocument::table()
 {
     using Document = ProductDocument;
-    static constexpr ColumnInfo columns[] = {
-        integerColumn<&Document::docTypeID>("doc_type_id"),
-        integerColumn<&Document::date>("date"),
-        integerColumn<&Document::docNumber>("doc_number"),
-        integerColumn<&Document::contragentID>("contragent_id"),
-        realColumn<Document, &Document::docSum, &Document::setDocSum>("doc_sum"),
-        integerColumn<&Document::managerID>("manager_id"),
-        textColumn<&Document::comment>("comment"),
-        booleanColumn<&Document::confirmed>("is_confirmed"),
-        booleanColumn<&Document::correction>("is_correction"),
-        integerColumn<&Document::parentDocID>("parent_doc_id"),
-        integerColumn<&Document::parentDocTypeID>("parent_doc_type_id"),
-        integerColumn<&Document::payToDate>("pay_to_date"),
-        realColumn<Document, &Document::leftToPay, &Document::setLeftToPay>("left_to_pay"),
-        realColumn<Document, &Document::contragentBalance, &Document::setContragentBalance>(
-            "contragent_balance"),
+    static constexpr auto columns = withDocumentColumns({
         integerColumn<&Document::stockFromID>("stock_from_id"),
         integerColumn<&Document::stockToID>("stock_to_id"),
         realColumn<Document, &Document::vatSum, &Document::setVatSum>("vat_sum"),
@@ -95,7 +63,7 @@ const TableInfo& ProductDocument::table()
             "contragent_discount"),
         booleanColumn<&Document::withVAT>("is_with_vat"),
         booleanColumn<&Document::withGST>("is_with_gst"),
-    };
+    });
     static constexpr LinkInfo links[] = {
         linkOf<&Document::managerID, &Document::manager>(),
         linkOf<&Document::contragentID, &Document::contragent>(),

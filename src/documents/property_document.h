@@ -18,7 +18,6 @@ public:
     void insertProperty(const std::shared_ptr<Property>& record);
 
     QString journalNameFrom(const QString& start) const override;
-    QVariant valueForIdentifier(QStringView key) const override;
     static const TableInfo& table();
 
 protected:
