@@ -19,7 +19,9 @@ constexpr qint64 rowsOfReading = 100'000;
 
 } // namespace
 
-ReadBound::ReadBound(sqlite3* database, Work work) noexcept : m_database(database), m_work(work)
+ReadBound::ReadBound(sqlite3* database, Work work) noexcept
+    : m_database(database), m_work(work),
+      m_allowedSteps(work == Work::Opening ? stepsOfOpening : stepsOfReading), m_allowedRows(rowsOfReading)
 {
     sqlite3_progress_handler(database, stepsBetweenLooks, &ReadBound::onProgress, this);
 }
@@ -29,9 +31,11 @@ ReadBound::~ReadBound()
     sqlite3_progress_handler(m_database, 0, nullptr, nullptr);
 }
 
-bool ReadBound::allowsRows(qint64 rows) const
+bool ReadBound::allowsRows(qint64 rows)
 {
-    return rows <= rowsOfReading || rows <= rowsOfReading + fileSize() / bytesPerRow;
+    if (rows > m_allowedRows)
+        m_allowedRows = rowsOfReading + fileSize() / bytesPerRow;
+    return rows <= m_allowedRows;
 }
 
 int ReadBound::onProgress(void* bound)
@@ -41,11 +45,11 @@ int ReadBound::onProgress(void* bound)
     return self.allowsSteps() ? 0 : 1;
 }
 
-bool ReadBound::allowsSteps() const
+bool ReadBound::allowsSteps()
 {
-    if (m_work == Work::Opening)
-        return m_steps <= stepsOfOpening;
-    return m_steps <= stepsOfReading || m_steps <= stepsOfReading + fileSize() * stepsPerByte;
+    if (m_steps > m_allowedSteps && m_work == Work::Reading)
+        m_allowedSteps = stepsOfReading + fileSize() * stepsPerByte;
+    return m_steps <= m_allowedSteps;
 }
 
 // Through SQLite's own handle: opening the file beside the connection would drop its locks.

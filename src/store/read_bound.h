@@ -23,16 +23,19 @@ public:
 
     // The next step is the first one of a statement.
     void restart() { m_steps = 0; }
-    bool allowsRows(qint64 rows) const;
+    bool allowsRows(qint64 rows);
 
 private:
     static int onProgress(void* bound);
-    bool allowsSteps() const;
+    bool allowsSteps();
     qint64 fileSize() const;
 
     sqlite3* m_database;
     Work m_work;
     qint64 m_steps = 0;
+    // Raised by the file's size when they are reached: asking for it at every row would double a long read.
+    qint64 m_allowedSteps;
+    qint64 m_allowedRows;
 };
 
 } // namespace zelvor
