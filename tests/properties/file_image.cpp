@@ -174,7 +174,7 @@ std::map<DocKey, std::string> readConfirmedTexts(Connector& db)
     each(db, "SELECT doc_id," + columnsOf("product_doc_row") + " FROM product_doc_row ORDER BY id",
          [&](const Statement& row) {
              if (const auto found = texts.find({Kind::Product, row.integer(0)}); found != texts.end())
-                 found->second += "|" + row.text(1).toStdString();
+                 found->second.append("|").append(row.text(1).toStdString());
          });
     return texts;
 }
