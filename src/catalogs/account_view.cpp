@@ -53,13 +53,10 @@ QVariant AccountView::cell(const Account& account, const QString& identifier) co
 
 bool AccountView::setValue(int row, const QString& identifier, const QVariant& value)
 {
-    const bool isDefaultBox = identifier == "default"_L1;
     const std::shared_ptr<Account> account = record(row);
-    if (!account || (!isDefaultBox && identifier != "hidden"_L1))
+    if (!account)
         return false;
-    const bool stored = clickDefaultOrHidden(
-        m_controller, account, isDefaultBox ? DefaultHiddenBox::Default : DefaultHiddenBox::Hidden,
-        value.toBool());
+    const bool stored = clickDefaultOrHidden(m_controller, account, identifier, value.toBool());
     reloadData();
     return stored;
 }

@@ -58,15 +58,20 @@ bool writeDefaultAndHiddenOf(CatalogListController<Record>& controller, const Ca
     return true;
 }
 
-// A click on one of the boxes in the list of a controller that offers writeDefaultAndHidden.
+// A click on the "default" or the "hidden" box in the list of a controller that offers writeDefaultAndHidden.
+// False, and nothing changed, for another column and when the store failed.
 template <class Record, class Controller>
-bool clickDefaultOrHidden(Controller& controller, const std::shared_ptr<Record>& record, DefaultHiddenBox box,
-                          bool on)
+bool clickDefaultOrHidden(Controller& controller, const std::shared_ptr<Record>& record,
+                          const QString& identifier, bool on)
 {
+    const bool isDefaultBox = identifier == QLatin1StringView("default");
+    if (!isDefaultBox && identifier != QLatin1StringView("hidden"))
+        return false;
     const bool wasDefault = record->isDefault;
     const bool wasHidden = record->isHidden;
-    (box == DefaultHiddenBox::Default ? record->isDefault : record->isHidden) = on;
-    if (controller.writeDefaultAndHidden(record, box))
+    (isDefaultBox ? record->isDefault : record->isHidden) = on;
+    if (controller.writeDefaultAndHidden(record,
+                                         isDefaultBox ? DefaultHiddenBox::Default : DefaultHiddenBox::Hidden))
         return true;
     record->isDefault = wasDefault;
     record->isHidden = wasHidden;

@@ -35,13 +35,10 @@ std::vector<ViewColumn> StockView::columns() const
 
 bool StockView::setValue(int row, const QString& identifier, const QVariant& value)
 {
-    const bool isDefaultBox = identifier == "default"_L1;
     const std::shared_ptr<Stock> stock = record(row);
-    if (!stock || (!isDefaultBox && identifier != "hidden"_L1))
+    if (!stock)
         return false;
-    const bool stored = clickDefaultOrHidden(
-        m_controller, stock, isDefaultBox ? DefaultHiddenBox::Default : DefaultHiddenBox::Hidden,
-        value.toBool());
+    const bool stored = clickDefaultOrHidden(m_controller, stock, identifier, value.toBool());
     reloadData();
     return stored;
 }

@@ -1,30 +1,11 @@
 #include "product_form.h"
 
-#include <cmath>
 #include <limits>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace zelvor {
 namespace {
-
-// What the file holds is the same before and after a refused confirmation.
-void expectRefused(TeaShop& shop, ProductDocumentViewController& form, const QString& alert)
-{
-    const QStringList before = shop.dump();
-    const std::size_t alerts = shop.dialogs.alerts.size();
-    EXPECT_FALSE(form.confirmDoc());
-    EXPECT_EQ(shop.dump(), before);
-    ASSERT_EQ(shop.dialogs.alerts.size(), alerts + 1);
-    EXPECT_EQ(shop.dialogs.alerts.back().messageText, u"Ups! Something goes wrong!"_s);
-    EXPECT_EQ(shop.dialogs.alerts.back().buttons, QStringList{u"Close"_s});
-    EXPECT_EQ(shop.dialogs.alerts.back().alertStyle, 0);
-    EXPECT_EQ(shop.alertText(), alert);
-    EXPECT_FALSE(form.document->confirmed);
-    EXPECT_EQ(form.alertMessage, QString());
-    EXPECT_FALSE(form.progress.isRunning());
-    EXPECT_FALSE(shop.db.inTransaction());
-}
 
 TEST(Confirmation, aPurchaseAddsStockAveragesTheCostAndCreditsTheSupplier)
 {
@@ -180,109 +161,6 @@ TEST(Confirmation, missingInputsAreNamedAndChangeNothing)
     expectRefused(shop, *small, u"These inputs are missing: Products.\n"_s);
 }
 
-// The date
-
-TEST(CheckDate, aLaterConfirmedDocumentOfAnyKindRefuses)
-{
-    const QString alert = u"Can't confirm document: already have document with later date!\n"_s;
-    for (int kind = 0; kind < 3; ++kind) {
-        TeaShop shop;
-        ProductDocument product;
-        MoneyDocument money;
-        PropertyDocument property;
-        DocumentModel* documents[] = {&product, &money, &property};
-        documents[kind]->date = shop.clock.now() - 1;
-        documents[kind]->confirmed = true;
-        kind == 0   ? void(shop.store(product))
-        : kind == 1 ? void(shop.store(money))
-                    : void(shop.store(property));
-        const auto form = shop.formWithTea(DocType::AddProduct, 1, 1);
-        form->document->date = shop.clock.now() - 2;
-        expectRefused(shop, *form, alert);
-        form->document->date = shop.clock.now() - 1;
-        EXPECT_TRUE(form->confirmDoc()) << "the same second is allowed";
-    }
-}
-
-TEST(CheckDate, aLaterDraftDoesNotRefuse)
-{
-    TeaShop shop;
-    ASSERT_TRUE(shop.formWithTea(DocType::AddProduct, 1, 1)->writeDoc());
-    const auto form = shop.formWithTea(DocType::AddProduct, 1, 1);
-    form->document->date = shop.clock.now() - 100;
-    EXPECT_TRUE(form->confirmDoc());
-}
-
-TEST(CheckDate, thePresentSecondIsTheFuture)
-{
-    TeaShop shop;
-    const auto form = shop.formWithTea(DocType::AddProduct, 1, 1);
-    form->document->date = shop.clock.now();
-    expectRefused(shop, *form, u"Can't confirm document with date from future!\n"_s);
-    shop.clock.set(shop.clock.now() + 1);
-    EXPECT_TRUE(form->confirmDoc());
-}
-
-TEST(CheckDate, aFileWithoutSettingsRefuses)
-{
-    TeaShop shop;
-    const auto form = shop.formWithTea(DocType::AddProduct, 1, 1);
-    ASSERT_EQ(shop.db.remove(*shop.appDelegate.params()), 1);
-    expectRefused(shop, *form, u"Can't check last report period!\n Can't confirm document!\n"_s);
-}
-
-TEST(CheckDate, aClosedPeriodRefusesEvenWithoutLaterDocuments)
-{
-    TeaShop shop;
-    const auto form = shop.formWithTea(DocType::AddProduct, 1, 1);
-    const qint64 lastSecondOfOctober = 1'698'796'799;
-    form->document->date = lastSecondOfOctober - 1;
-    expectRefused(shop, *form, u"You are trying to confirm document with date from closed period!\n"_s);
-    form->document->date = lastSecondOfOctober;
-    EXPECT_TRUE(form->confirmDoc());
-}
-
-TEST(CheckDate, theLastMonthIsClosedOnTheWay)
-{
-    TeaShop shop;
-    shop.changeParams([](Params& params) { params.lastPeriodSaved = 202309; });
-    shop.stockRow(*shop.main, *shop.tea, 8, 2);
-    const auto form = shop.formWithTea(DocType::AddProduct, 1, 1);
-    ASSERT_TRUE(form->confirmDoc()) << qPrintable(shop.alertText());
-    EXPECT_EQ(shop.appDelegate.params()->lastPeriodSaved, 202310);
-    const auto history = shop.db.freeSQL<StockHistory>();
-    ASSERT_EQ(history.size(), 1U);
-    EXPECT_EQ(history[0]->date, 1'698'796'800); // the first of November
-    EXPECT_EQ(history[0]->amount(), 8);
-    EXPECT_EQ(history[0]->amountReserved(), 2);
-}
-
-TEST(CheckDate, aMonthClosedOnTheWayIsTakenBackWithTheRefusal)
-{
-    TeaShop shop;
-    shop.changeParams([](Params& params) { params.lastPeriodSaved = 202309; });
-    shop.stockRow(*shop.main, *shop.cup, 8);
-    const auto form = shop.formWithTea(DocType::SellProduct, 1, 1);
-    shop.posted.clear();
-    expectRefused(shop, *form, u"We have not 'Tea' on WH: 'Main'\n"_s);
-    EXPECT_EQ(shop.appDelegate.params()->lastPeriodSaved, 202309);
-    // Heard inside the transaction, and again when it was taken back.
-    EXPECT_EQ(shop.posted.names, (std::vector{PropertiesChangedNotification, BalanceChangedNotification,
-                                              PropertiesChangedNotification, BalanceChangedNotification}));
-}
-
-TEST(CheckDate, aMonthThatCannotBeClosedRefuses)
-{
-    TeaShop shop;
-    shop.changeParams([](Params& params) { params.lastPeriodSaved = 202309; });
-    const auto form = shop.formWithTea(DocType::AddProduct, 1, 1);
-    shop.connector->failCall(1, FaultInjectingConnector::Update);
-    expectRefused(shop, *form,
-                  u"Last report period must be closed before we can proceed document with date from later "
-                  "period. But we can't close it now for unknown reason!\n"_s);
-    EXPECT_TRUE(shop.connector->hasFailed());
-}
-
 // Stock
 
 TEST(Confirmation, allShortagesAreListedAndNothingIsChanged)
@@ -368,97 +246,6 @@ TEST(Confirmation, aSaleOfServicesNeedsNoWarehouseAndLooksAtNoStock)
     ASSERT_TRUE(sale->confirmDoc());
     EXPECT_EQ(shop.balance(), -41);
     EXPECT_TRUE(shop.db.freeSQL<StockRow>().empty());
-}
-
-// Average cost
-
-TEST(AverageCost, shipmentIsSharedAndReservesCount)
-{
-    TeaShop shop;
-    shop.tea->setBaseCost(5);
-    shop.store(*shop.tea);
-    shop.stockRow(*shop.main, *shop.tea, 8, 2);
-    const auto form = shop.formWithTea(DocType::BuyProduct, 10, 7);
-    EXPECT_TRUE(form->setRowValue(0, u"includeShipment"_s, Decimal(1)));
-    form->shipment.setValue(Decimal(7));
-    EXPECT_TRUE(form->shipment.userChanged());
-    ASSERT_TRUE(form->confirmDoc());
-    EXPECT_EQ(shop.read(*shop.tea)->baseCost(), 6.35);
-    EXPECT_EQ(shop.balance(), 77);
-    EXPECT_EQ(shop.db.select<ProductDocument>(form->document->id)->documentRows[0]->baseCost(), 7);
-}
-
-TEST(AverageCost, allWarehousesCount)
-{
-    TeaShop shop;
-    shop.stockRow(*shop.main, *shop.tea, 5);
-    shop.stockRow(*shop.shop, *shop.tea, 5);
-    ASSERT_TRUE(shop.formWithTea(DocType::BuyProduct, 10, 6)->confirmDoc());
-    EXPECT_EQ(shop.read(*shop.tea)->baseCost(), 5);
-}
-
-TEST(AverageCost, theFirstPurchaseSetsTheCostWithItsShareOfShipment)
-{
-    TeaShop shop;
-    const auto form = shop.formWithTea(DocType::BuyProduct, 10, 6);
-    shop.add(*form, *shop.cup, 10, 2);
-    EXPECT_TRUE(form->setRowValue(0, u"includeShipment"_s, Decimal(1)));
-    form->shipment.setValue(Decimal(6));
-    EXPECT_TRUE(form->shipment.userChanged());
-    ASSERT_TRUE(form->confirmDoc());
-    EXPECT_EQ(shop.read(*shop.tea)->baseCost(), 6.6);
-    EXPECT_EQ(shop.read(*shop.cup)->baseCost(), 2);
-}
-
-TEST(AverageCost, theShareOfShipmentKeepsItsFractions)
-{
-    TeaShop shop;
-    const auto form = shop.form(DocType::BuyProduct);
-    shop.add(*form, *shop.tea, 10, 1);
-    shop.add(*form, *shop.cup, 13, 1);
-    EXPECT_TRUE(form->setRowValue(0, u"price"_s, Decimal::fromText(u"1.05")));
-    EXPECT_TRUE(form->setRowValue(1, u"price"_s, Decimal::fromText(u"1.5")));
-    for (int row = 0; row < 2; ++row)
-        EXPECT_TRUE(form->setRowValue(row, u"includeShipment"_s, Decimal(1)));
-    form->shipment.setValue(Decimal(1));
-    EXPECT_TRUE(form->shipment.userChanged());
-    ASSERT_TRUE(form->confirmDoc());
-    // 1.00 on 30.00 is 0.033333333; 10.50 with its share is 10.85, and 1.085 is 1.08 half to even.
-    EXPECT_EQ(shop.read(*shop.tea)->baseCost(), 1.08);
-    EXPECT_EQ(shop.read(*shop.cup)->baseCost(), 1.55);
-}
-
-TEST(AverageCost, shipmentWithoutARowToBearItIsLostToTheCost)
-{
-    TeaShop shop;
-    const auto form = shop.formWithTea(DocType::BuyProduct, 10, 6);
-    form->shipment.setValue(Decimal(6));
-    EXPECT_TRUE(form->shipment.userChanged());
-    ASSERT_TRUE(form->confirmDoc());
-    EXPECT_EQ(shop.read(*shop.tea)->baseCost(), 6);
-    EXPECT_EQ(shop.balance(), 66);
-}
-
-TEST(AverageCost, nothingOfNothingIsNoNumber)
-{
-    TeaShop shop;
-    const auto form = shop.formWithTea(DocType::BuyProduct, 10, 6);
-    shop.add(*form, *shop.cup, 0, 2);
-    ASSERT_TRUE(form->confirmDoc());
-    EXPECT_EQ(shop.read(*shop.tea)->baseCost(), 6);
-    EXPECT_TRUE(std::isnan(shop.read(*shop.cup)->baseCost()));
-}
-
-TEST(AverageCost, aReturnAveragesLikeAPurchase)
-{
-    TeaShop shop;
-    shop.stockRow(*shop.main, *shop.tea, 10);
-    const auto form = shop.formWithTea(DocType::Return, 10, 8);
-    ASSERT_TRUE(form->confirmDoc());
-    EXPECT_EQ(shop.read(*shop.tea)->baseCost(), 6);
-    EXPECT_EQ(shop.onHand(*shop.main, *shop.tea), 20);
-    EXPECT_EQ(shop.balance(), 80);
-    EXPECT_EQ(form->document->stockFromID, 0);
 }
 
 // The counterparty

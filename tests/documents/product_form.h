@@ -100,4 +100,23 @@ inline constexpr DocType productTypes[] = {
     DocType::BuyProduct,  DocType::Return,     DocType::SellProduct,  DocType::SellIntangibles,
     DocType::MoveProduct, DocType::AddProduct, DocType::DeleteProduct};
 
+// What the file holds is the same before and after a refused confirmation.
+inline void expectRefused(TeaShop& shop, ProductDocumentViewController& form, const QString& alert)
+{
+    using namespace Qt::Literals::StringLiterals;
+    const QStringList before = shop.dump();
+    const std::size_t alerts = shop.dialogs.alerts.size();
+    EXPECT_FALSE(form.confirmDoc());
+    EXPECT_EQ(shop.dump(), before);
+    ASSERT_EQ(shop.dialogs.alerts.size(), alerts + 1);
+    EXPECT_EQ(shop.dialogs.alerts.back().messageText, u"Ups! Something goes wrong!"_s);
+    EXPECT_EQ(shop.dialogs.alerts.back().buttons, QStringList{u"Close"_s});
+    EXPECT_EQ(shop.dialogs.alerts.back().alertStyle, 0);
+    EXPECT_EQ(shop.alertText(), alert);
+    EXPECT_FALSE(form.document->confirmed);
+    EXPECT_EQ(form.alertMessage, QString());
+    EXPECT_FALSE(form.progress.isRunning());
+    EXPECT_FALSE(shop.db.inTransaction());
+}
+
 } // namespace zelvor
