@@ -1,8 +1,10 @@
 #pragma once
 
 #include "core/outlets.h"
+#include "shell/main_menu_controller.h"
 #include "shell/main_view_controller.h"
 #include "shell/project_select_window_controller.h"
+#include "shell/user_defaults_controller.h"
 
 namespace zelvor {
 
@@ -16,24 +18,30 @@ public:
 
     AppDelegate& appDelegate;
     ProjectSelectWindowController startWindowController;
+    UserDefaultsController preferences;
     MainViewController mainWindowController;
+    MainMenuController mainMenuController;
     Popover window{QStringLiteral("window")}; // the main window: open while it is on the screen
     Label windowTitle{QStringLiteral("windowTitle")};
-    Popover preferences{QStringLiteral("preferences")};
-    bool preferencesAreInitial = false; // they were opened to set up a new project
 
     // At the start: the project that was open last, or the project window.
     void openLastProject();
+    // A file handed over by a file manager. It becomes one of the known projects; when it cannot be opened
+    // the user is told and the project window comes up.
+    void openFile(const QString& path);
     // The gate of every opened project: to the main window, or first to the preferences.
     void checkDefaultCurrency();
-    // Closing the main window leaves the project for the project window.
+    void showDefaults();
+    // The close button: asks about unsaved documents, then leaves the project for the project window.
     void closeWindow();
-    // The program ends; the next start opens the same project again.
+    // Asks about unsaved documents; `then` ends the program, which opens the same project at the next start.
+    void quit(std::function<void()> then);
     void applicationWillTerminate() { appDelegate.connector.close(); }
 
 private:
     void prepareMainWindow();
     bool openDefaultBusiness();
+    void leaveProject();
 };
 
 } // namespace zelvor

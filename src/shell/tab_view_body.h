@@ -1,0 +1,28 @@
+#pragma once
+
+#include "shell/tab_page.h"
+
+#include <optional>
+#include <vector>
+
+namespace zelvor {
+
+// The stack of pages under the strip, in position order. Only the active page's view is visible.
+class TabViewBody {
+public:
+    std::optional<int> activTab;
+
+    const std::vector<TabPage>& pages() const { return m_pages; }
+    void addPage(TabPage page); // the new page is the active one
+    void changeActiveTab(int position);
+    // Answers the page taken out; its view was told didRemoveFromSuperView.
+    TabPage closeTabAtPosition(int position);
+    void removeAll();
+
+private:
+    void showActivePage();
+
+    std::vector<TabPage> m_pages;
+};
+
+} // namespace zelvor
