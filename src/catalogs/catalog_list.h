@@ -76,6 +76,12 @@ public:
     // Something changed in the file: the list is read at the next question, or now while it is on the screen.
     void markStale();
     bool isStale() const { return m_stale; }
+    // Another project is coming: nothing of the one that was read stays, and nothing is read yet.
+    virtual void forget()
+    {
+        list().setRecords({});
+        m_stale = true;
+    }
 
 protected:
     virtual CatalogListView<Record>& list() = 0;

@@ -31,6 +31,11 @@ public:
     {
         return record.name.isEmpty() ? localized("Field 'Name' is required!") : QString();
     }
+    void forget() override
+    {
+        closeForm();
+        CatalogListController<Record>::forget();
+    }
 
 protected:
     typename CatalogListController<Record>::Records readRecords() override

@@ -24,6 +24,12 @@ public:
         FlatCatalogController<Record>::refresh();
         refreshChoosers();
     }
+    void forget() override
+    {
+        FlatCatalogController<Record>::forget();
+        m_linked.clear();
+        m_linkedStale = true;
+    }
 
 protected:
     virtual PopUpButton& chooser() = 0;

@@ -70,6 +70,8 @@ public:
             prepare();
     }
     bool isStale() const { return m_stale; }
+    // Another project is coming: nothing of the one that was read stays, and nothing is read yet.
+    void forget();
 
     Node getItemWithIdentifier(const QString& identifier) override;
     // Puts the node under the group that its parentID names; without such a group it stays out of the tree.
@@ -211,6 +213,23 @@ void TreeCatalogController<Model, Group, Leaf>::prepare()
     if (const Node shown = focusedObject && focusedObject->id != 0 ? sameNode(focusedObject) : nullptr)
         disableMenus(shown);
     tree().reloadData();
+}
+
+template <class Model, class Group, class Leaf>
+void TreeCatalogController<Model, Group, Leaf>::forget()
+{
+    groupForm().popover.close();
+    leafForm().popover.close();
+    focusedObject.reset();
+    m_leafAside.reset();
+    addingFromPopover = false;
+    clearGroupForm();
+    clearLeafForm();
+    expanded.clear();
+    tree().selectItem(nullptr);
+    tree().setTree({}, {});
+    m_all.clear();
+    m_stale = true;
 }
 
 template <class Model, class Group, class Leaf>

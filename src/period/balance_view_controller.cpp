@@ -147,6 +147,15 @@ void BalanceViewController::refresh()
         prepareData();
 }
 
+void BalanceViewController::forget()
+{
+    m_rows.clear();
+    m_balance = 0;
+    balanceShown = false;
+    view.setRows({});
+    m_stale = true;
+}
+
 const std::vector<std::shared_ptr<BalanceRow>>& BalanceViewController::rows()
 {
     refresh();

@@ -30,6 +30,8 @@ public:
     void groupButtonClicked() { openRows(); }
     // Computes a sheet that is out of date.
     void refresh();
+    // Another project is coming: nothing of the one that was read stays, and nothing is read yet.
+    void forget();
 
     // All lines, and debit minus credit.
     const std::vector<std::shared_ptr<BalanceRow>>& rows();

@@ -1,11 +1,22 @@
 #include "shell/application_shell.h"
 
+#include "core/localized.h"
+
+#include <QtCore/QFileInfo>
+
 namespace zelvor {
 
 ApplicationShell::ApplicationShell(AppDelegate& owner)
-    : appDelegate(owner), startWindowController(owner), mainWindowController(owner)
+    : appDelegate(owner), startWindowController(owner), preferences(owner), mainWindowController(owner),
+      mainMenuController(owner, mainWindowController)
 {
-    startWindowController.onProjectOpened = [this] { checkDefaultCurrency(); };
+    startWindowController.onProjectOpened = [this] {
+        mainWindowController.clearWindow();
+        checkDefaultCurrency();
+    };
+    preferences.onShowMainWindow = [this] { window.open(); };
+    preferences.onCheckDefaultCurrency = [this] { checkDefaultCurrency(); };
+    preferences.onLeaveProject = [this] { closeWindow(); };
 }
 
 void ApplicationShell::openLastProject()
@@ -26,6 +37,26 @@ bool ApplicationShell::openDefaultBusiness()
     return found != businesses.end() && appDelegate.connector.open(*found);
 }
 
+void ApplicationShell::openFile(const QString& path)
+{
+    const QFileInfo file(path);
+    const QString chosen = file.absoluteFilePath();
+    if (appDelegate.connector.isOpen()) {
+        if (QFileInfo(appDelegate.connector.path()) == file)
+            return;
+        if (!file.isFile()) { // not worth leaving the open project for
+            appDelegate.dialogs.showAlert(
+                {localized("Can't open project file!"), chosen, {localized("Close")}, 0});
+            return;
+        }
+    }
+    mainWindowController.leave([this, chosen] {
+        if (appDelegate.connector.isOpen())
+            leaveProject();
+        startWindowController.openFile(chosen);
+    });
+}
+
 // A file without a settings row leaves everything as it stands.
 void ApplicationShell::checkDefaultCurrency()
 {
@@ -34,8 +65,8 @@ void ApplicationShell::checkDefaultCurrency()
         return;
     if (params->defaultCurrency == 0) {
         window.close();
-        preferencesAreInitial = true;
-        preferences.open();
+        preferences.initial = true;
+        preferences.showWindow();
         return;
     }
     prepareMainWindow();
@@ -46,18 +77,40 @@ void ApplicationShell::checkDefaultCurrency()
 
 void ApplicationShell::prepareMainWindow()
 {
-    QString title = appDelegate.defaults.defaultBusiness().value_or(QString());
-    windowTitle.setText(title.replace(u'_', u' '));
+    QString title = appDelegate.defaults.defaultBusiness().value_or(QString()).replace(u'_', u' ');
+    if (appDelegate.connector.isReadOnly())
+        title += localized(" (read-only)");
+    windowTitle.setText(title);
+    mainMenuController.prepareMainMenu();
     mainWindowController.prepareAllData();
+}
+
+void ApplicationShell::showDefaults()
+{
+    if (appDelegate.connector.isOpen())
+        preferences.showWindow();
 }
 
 void ApplicationShell::closeWindow()
 {
+    mainWindowController.leave([this] { leaveProject(); });
+}
+
+void ApplicationShell::leaveProject()
+{
     startWindowController.showWindow();
     appDelegate.connector.close();
+    mainWindowController.clearWindow();
     appDelegate.defaults.removeDefaultBusiness();
     appDelegate.defaults.synchronize();
+    // What stands there belongs to this project and must not be applied to the next one.
+    preferences.projectWasLeft();
     window.close();
+}
+
+void ApplicationShell::quit(std::function<void()> then)
+{
+    mainWindowController.leave(std::move(then));
 }
 
 } // namespace zelvor

@@ -6,6 +6,8 @@
 #include "shell/project_select_window_controller.h"
 #include "shell/user_defaults_controller.h"
 
+#include <functional>
+
 namespace zelvor {
 
 // Which of the three states the application is in: no project (the project window is up), a project that is

@@ -44,7 +44,10 @@ public:
     bool canExportActiveViewToExel() const;
 
 private:
+    void followTitle(BaseView& view, bool isPermanent);
     void pagesChanged() const;
+
+    std::vector<const BaseView*> m_heardViews; // permanent ones
 };
 
 } // namespace zelvor

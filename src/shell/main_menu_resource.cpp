@@ -1,40 +1,13 @@
 #include "shell/main_menu_resource.h"
 
+#include "shell/plist_resource.h"
+
 #include <QtCore/QFile>
-#include <QtCore/QResource>
 #include <QtCore/QXmlStreamReader>
 
 using namespace Qt::Literals::StringLiterals;
 
-// Outside any namespace: a static library's resources are dropped by the linker unless something asks.
-static void initializeShellResources()
-{
-    Q_INIT_RESOURCE(shell);
-}
-
 namespace zelvor {
-
-namespace {
-
-// Reads one <dict> of keys and scalar values; the reader stands on its start.
-MenuSeed readEntry(QXmlStreamReader& xml)
-{
-    MenuSeed seed;
-    QString key;
-    while (xml.readNextStartElement()) {
-        const bool isKey = xml.name() == u"key";
-        const QString text = xml.readElementText();
-        if (isKey)
-            key = text;
-        else if (key == u"name")
-            seed.name = text;
-        else if (key == u"parentID")
-            seed.parentID = text.toLongLong();
-    }
-    return seed;
-}
-
-} // namespace
 
 std::vector<MenuSeed> mainMenuSeed()
 {
@@ -47,8 +20,10 @@ std::vector<MenuSeed> mainMenuSeed()
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement || xml.name() != u"array")
             continue;
-        while (xml.readNextStartElement())
-            seeds.push_back(readEntry(xml));
+        while (xml.readNextStartElement()) {
+            const QMap<QString, QString> entry = readPlistDictionary(xml);
+            seeds.push_back({entry.value(u"name"_s), entry.value(u"parentID"_s).toLongLong()});
+        }
     }
     if (xml.hasError() || seeds.empty())
         qFatal("The program's menu list cannot be read.");

@@ -25,6 +25,7 @@ class ExpendViewController;
 class FunctionViewController;
 class ManagerViewController;
 class MeasurementViewController;
+class ProductDocument;
 class ProductViewController;
 class PropertyJournalViewController;
 class StockViewController;
@@ -83,7 +84,7 @@ public:
     void prepareAllData();
     // The sheet was computed.
     void updateBalance();
-    // Removes all tabs; every permanent list is stale.
+    // Removes all tabs; the permanent lists forget what they have read.
     void clearWindow();
     void setStateString(const QString& text) override { stateField.setText(text); }
     void showHelp();
@@ -110,7 +111,7 @@ public:
     void removedPageAtIndex(int index) override;
 
     // The closing of months; see PeriodClosing.
-    void checkPeriod() { m_period.checkPeriod(); }
+    void checkPeriod();
     bool closePeriod(qint64 date, Params& params) { return m_period.closePeriod(date, params); }
     qint64 getStartPeriodDateFromDate(qint64 date, const Params& params) const
     {
@@ -126,10 +127,25 @@ public:
     }
 
 private:
-    void openPage(TabPage page);
+    using Dropped = std::vector<std::shared_ptr<ModelViewController>>;
+
+    void connectControllers();
+    // No list, form or sheet holds anything of a project any more.
+    void forgetProject();
+    void cancelForms();
+    void openPage(std::shared_ptr<ModelViewController> controller, BaseView& view);
+    void openProductDocument(std::shared_ptr<ProductDocument> document);
+    void closeWithoutQuestion(const BaseView& view);
+    void askToSave(int position, std::function<void()> goOn, std::function<void()> drop);
+    void leaveUnlessDropped(std::function<void()> then, Dropped dropped);
     void notReleased();
 
     PeriodClosing m_period;
+    bool m_leftViewCollapsed = false;
+    // The controllers behind openedView; none for a permanent view.
+    std::vector<std::shared_ptr<ModelViewController>> m_openedControllers;
+    // A form that had its tab taken away is still at work when it asked for that itself.
+    std::shared_ptr<ModelViewController> m_lastClosed;
     std::vector<NotificationCenter::Observation> m_observations;
 };
 

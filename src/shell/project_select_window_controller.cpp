@@ -100,11 +100,12 @@ void ProjectSelectWindowController::openExistingProject()
         {localized("Open Existing Project"), localized("Name"), localized("Open"), {u"pdb"_s}});
     if (!path)
         return;
-    if (!appDelegate.connector.open(*path)) {
-        reportUnopened(*path);
-        return;
-    }
-    projectOpened(registerProject(*path));
+    open(*path, [this, chosen = *path](Opening opening) {
+        if (opening == Opening::Opened)
+            projectOpened(registerProject(chosen));
+        else if (opening == Opening::Failed)
+            reportUnopened(chosen);
+    });
 }
 
 void ProjectSelectWindowController::openProject()
@@ -112,13 +113,50 @@ void ProjectSelectWindowController::openProject()
     const Business* selected = selectedBusiness();
     if (!selected)
         return;
-    const Business business = *selected;
-    if (appDelegate.connector.open(business.url))
-        projectOpened(businessKey(business.name));
-    else if (QFileInfo::exists(business.url))
-        reportUnopened(business.url);
-    else
-        offerToForget(business);
+    open(selected->url, [this, business = *selected](Opening opening) {
+        if (opening == Opening::Opened)
+            projectOpened(businessKey(business.name));
+        else if (opening == Opening::Failed && QFileInfo::exists(business.url))
+            reportUnopened(business.url);
+        else if (opening == Opening::Failed)
+            offerToForget(business);
+    });
+}
+
+void ProjectSelectWindowController::openFile(const QString& path)
+{
+    open(path, [this, path](Opening opening) {
+        if (opening == Opening::Opened) {
+            projectOpened(registerProject(path));
+            return;
+        }
+        if (opening == Opening::Failed)
+            reportUnopened(path);
+        showWindow();
+    });
+}
+
+void ProjectSelectWindowController::open(const QString& path, std::function<void(Opening)> then)
+{
+    Connector& connector = appDelegate.connector;
+    if (connector.open(path)) {
+        then(Opening::Opened);
+        return;
+    }
+    if (!connector.isLockedByOther()) {
+        then(Opening::Failed);
+        return;
+    }
+    const Alert question{localized("The project is in use by another program."),
+                         localized("It can be opened for reading. Nothing can be changed then."),
+                         {localized("Open Read-Only"), localized("Cancel")},
+                         0};
+    appDelegate.dialogs.ask(question, [&connector, path, then = std::move(then)](int answer) {
+        if (answer != firstButton)
+            then(Opening::Cancelled);
+        else
+            then(connector.open(path, Access::ReadOnly) ? Opening::Opened : Opening::Failed);
+    });
 }
 
 QString ProjectSelectWindowController::registerProject(const QString& path)

@@ -33,6 +33,9 @@ public:
     void createNewBusiness();
     void openExistingProject();
     void openProject();
+    // A file that the user handed over: it becomes one of the known projects. When it cannot be opened the
+    // user is told and this window is up.
+    void openFile(const QString& path);
     void deleteProject();
 
     // Puts a project among the known ones under its file's name and makes it the one to open at the next
@@ -40,6 +43,10 @@ public:
     QString registerProject(const QString& path);
 
 private:
+    enum class Opening { Opened, Failed, Cancelled };
+
+    // Opens the project; one that another program holds, for reading only, if the user wants that.
+    void open(const QString& path, std::function<void(Opening)> then);
     const Business* selectedBusiness() const;
     void projectOpened(const QString& key);
     void reportUnopened(const QString& path);

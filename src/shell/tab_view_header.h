@@ -62,4 +62,8 @@ private:
     double m_width = 0;
 };
 
+// Which tab is active when one was closed and `left` are left: the last one when it was the active tab (0
+// when none is left), otherwise the same as before at the place it has now.
+std::optional<int> activeTabAfterClosing(std::optional<int> active, int closed, int left);
+
 } // namespace zelvor

@@ -72,6 +72,17 @@ public:
     void applyChanges();
     void closeWindow();
     void showProjectSelectWindow();
+    // The project is closed: the window goes, whatever stood in it.
+    void projectWasLeft();
+
+private:
+    void bindOutlets();
+    void showTaxes(const Params& params);
+    void showCompany(const Params& params);
+    void showLogo();
+    bool hasStorableNumbers(); // shows an alert when not
+    void takeTaxes(Params& params) const;
+    void takeCompany(Params& params) const;
 };
 
 } // namespace zelvor

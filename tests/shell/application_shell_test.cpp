@@ -98,8 +98,8 @@ TEST_F(Start, aProjectWithoutACurrencyGoesToThePreferences)
     db.close();
     shell.openLastProject();
     EXPECT_FALSE(shell.window.isOpen());
-    EXPECT_TRUE(shell.preferences.isOpen());
-    EXPECT_TRUE(shell.preferencesAreInitial);
+    EXPECT_TRUE(shell.preferences.window.isOpen());
+    EXPECT_TRUE(shell.preferences.initial);
 
     params.defaultCurrency = rawValue(CurrencyStruct::GBP);
     ASSERT_EQ(db.update(params), 1);
@@ -115,7 +115,7 @@ TEST_F(Start, aMissingSettingsRowEndsQuietly)
     ASSERT_EQ(program.appDelegate.connector.remove(*params), 1);
     shell.checkDefaultCurrency();
     EXPECT_FALSE(shell.window.isOpen());
-    EXPECT_FALSE(shell.preferences.isOpen());
+    EXPECT_FALSE(shell.preferences.window.isOpen());
     EXPECT_TRUE(program.dialogs.alerts.empty());
 }
 
@@ -124,7 +124,7 @@ TEST_F(Start, aProjectMadeInTheProjectWindowGoesOnToThePreferences)
     shell.openLastProject();
     program.dialogs.savePaths.push_back(program.file(u"new"_s));
     shell.startWindowController.createNewBusiness();
-    EXPECT_TRUE(shell.preferences.isOpen());
+    EXPECT_TRUE(shell.preferences.window.isOpen());
     EXPECT_FALSE(projectWindowIsUp());
 }
 

@@ -35,11 +35,11 @@ TEST_F(FootLine, theBalanceIsHiddenUnlessTheSettingsShowIt)
 TEST_F(FootLine, theBalanceIsRedBelowZeroAndInOrderOtherwise)
 {
     books.account(u"Till"_s, -5);
-    main.prepareAllData();
+    showBalance(true);
     EXPECT_EQ(main.balance.real(), -5);
     EXPECT_EQ(main.balance.color(), redColor);
     books.account(u"Bank"_s, 5);
-    main.prepareAllData();
+    books.appDelegate.notifications.post(NotificationName::BalanceChangedNotification);
     EXPECT_EQ(main.balance.real(), 0);
     EXPECT_EQ(main.balance.color(), inOrderColor);
 }
