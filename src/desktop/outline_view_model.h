@@ -1,0 +1,80 @@
+#pragma once
+
+#include "core/view.h"
+#include "desktop/cell_painter.h"
+
+#include <QtCore/QAbstractItemModel>
+
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+namespace zelvor {
+
+// Any OutlineView as a Qt item model: one model for all trees. It makes one small object for each parent
+// whose rows were asked for, none for a row. A filter leaves the nodes that match, with those above them.
+class OutlineViewModel : public QAbstractItemModel {
+    Q_OBJECT
+
+public:
+    using Node = OutlineView::Node;
+
+    OutlineViewModel(OutlineView& view, const Calendar& calendar, QObject* parent = nullptr);
+    ~OutlineViewModel() override;
+
+    OutlineView& view() const { return m_view; }
+    const std::vector<ViewColumn>& columns() const { return m_columns; }
+    int columnWithIdentifier(const QString& identifier) const; // -1 for none
+
+    Node node(const QModelIndex& index) const; // null for the top level
+    // The first column's index of a node; invalid when the tree does not show it.
+    QModelIndex indexOf(const Node& node) const;
+
+    const QString& filter() const { return m_filter; }
+    void setFilter(const QString& filter);
+    void refresh();
+
+    QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
+    QModelIndex parent(const QModelIndex& index) const override;
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    bool hasChildren(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    void sort(int column, Qt::SortOrder order) override;
+
+    QStringList mimeTypes() const override;
+    QMimeData* mimeData(const QModelIndexList& indexes) const override;
+    bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                         const QModelIndex& parent) const override;
+    bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                      const QModelIndex& parent) override;
+    Qt::DropActions supportedDropActions() const override { return Qt::MoveAction | Qt::CopyAction; }
+
+private:
+    // The rows below one node.
+    struct Branch {
+        Node holder; // null for the top level
+        Branch* above = nullptr;
+        int rowInAbove = 0;
+        std::vector<Node> children;
+    };
+
+    void reload();
+    Branch* branchBelow(const QModelIndex& parent) const;
+    Branch* branchOf(const Node& holder, Branch* above, int row) const;
+    bool matches(const Node& node, const QStringList& words) const;
+    bool matchesWithin(const Node& node, const QStringList& words) const;
+
+    OutlineView& m_view;
+    const Calendar& m_calendar;
+    std::vector<ViewColumn> m_columns;
+    QString m_filter;
+    // By the holder; made when asked for.
+    mutable std::unordered_map<const TableModel*, std::unique_ptr<Branch>> m_branches;
+    bool m_reloading = false;
+};
+
+} // namespace zelvor

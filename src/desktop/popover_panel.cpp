@@ -1,0 +1,240 @@
+#include "desktop/popover_panel.h"
+
+#include "core/localized.h"
+#include "desktop/binding.h"
+#include "desktop/measures.h"
+#include "desktop/theme.h"
+
+#include <QtGui/QKeyEvent>
+#include <QtGui/QPainter>
+#include <QtGui/QPainterPath>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+constexpr int arrow = 10;
+constexpr int radius = 6;
+
+} // namespace
+
+PopoverPanel::PopoverPanel(Popover& outlet, QWidget* host)
+    : QFrame(host->window()), m_outlet(outlet), m_host(host), m_rows(new QVBoxLayout(this)),
+      m_fields(new QGridLayout), m_buttons(new QHBoxLayout)
+{
+    setObjectName(outlet.name());
+    setFocusPolicy(Qt::NoFocus);
+    const int margin = measures::pageMargin + arrow;
+    m_rows->setContentsMargins(margin, margin, margin, margin);
+    m_rows->setSpacing(measures::rowGap);
+    m_fields->setHorizontalSpacing(measures::rowGap);
+    m_fields->setVerticalSpacing(measures::rowGap);
+    m_fields->setColumnStretch(1, 1);
+    m_rows->addLayout(m_fields);
+    auto* const cancelButton = new QPushButton(localized("Cancel"));
+    cancelButton->setObjectName(u"cancelButton"_s);
+    cancelButton->setAutoDefault(false);
+    connect(cancelButton, &QPushButton::clicked, this, [this] { cancel(); });
+    m_buttons->addStretch(1);
+    m_buttons->addWidget(cancelButton);
+    m_rows->addLayout(m_buttons);
+    hide();
+    const QPointer<PopoverPanel> self(this);
+    outlet.onChange([self] {
+        if (self)
+            self->m_outlet.isOpen() ? self->openPanel() : self->closePanel();
+    });
+}
+
+PopoverPanel::~PopoverPanel()
+{
+    delete m_shield.data();
+}
+
+void PopoverPanel::setTitle(Label& title)
+{
+    auto* const label = new QLabel(this);
+    label->setFont(titleFont(font()));
+    bind(title, label);
+    m_rows->insertWidget(0, label);
+    setAccessibleName(title.text());
+    const QPointer<PopoverPanel> self(this);
+    title.onChange([self, &title] {
+        if (self)
+            self->setAccessibleName(title.text());
+    });
+}
+
+QLabel* PopoverPanel::addRow(const QString& text, QWidget* field, QWidget* beside)
+{
+    auto* const label = new QLabel(text, this);
+    label->setBuddy(field);
+    const int row = m_fields->rowCount();
+    m_fields->addWidget(label, row, 0, Qt::AlignRight | Qt::AlignVCenter);
+    m_fields->addWidget(field, row, 1, 1, beside ? 1 : 2);
+    if (beside)
+        m_fields->addWidget(beside, row, 2);
+    return label;
+}
+
+void PopoverPanel::addWide(QWidget* widget)
+{
+    m_fields->addWidget(widget, m_fields->rowCount(), 0, 1, 3);
+}
+
+void PopoverPanel::setError(Label& error)
+{
+    auto* const label = new QLabel(this);
+    label->setMinimumHeight(label->fontMetrics().height());
+    error.setColor(redColor);
+    bind(error, label);
+    m_rows->insertWidget(m_rows->count() - 1, label);
+}
+
+QPushButton* PopoverPanel::addOk(Button& okButton, const QString& text)
+{
+    m_ok = new QPushButton(text, this);
+    m_ok->setDefault(true);
+    m_ok->setAutoDefault(false);
+    bind(okButton, m_ok);
+    m_buttons->addWidget(m_ok);
+    return m_ok;
+}
+
+void PopoverPanel::openPanel()
+{
+    if (isVisible())
+        return;
+    m_focusBefore = QApplication::focusWidget();
+    if (!m_shield) {
+        m_shield = new QWidget(window());
+        m_shield->setObjectName(u"popoverShield"_s);
+        m_shield->installEventFilter(this);
+        window()->installEventFilter(this);
+    }
+    m_shield->setGeometry(window()->rect());
+    m_shield->show();
+    m_shield->raise();
+    place();
+    show();
+    raise();
+    QWidget* const first = m_first ? m_first.data() : m_ok;
+    if (!first)
+        return;
+    first->setFocus(Qt::PopupFocusReason);
+    if (auto* const line = qobject_cast<QLineEdit*>(first))
+        line->selectAll();
+}
+
+void PopoverPanel::closePanel()
+{
+    hide();
+    if (m_shield)
+        m_shield->hide();
+    if (m_focusBefore)
+        m_focusBefore->setFocus(Qt::PopupFocusReason);
+}
+
+// Beside the anchor where there is room: below it, else above it, and never outside the window.
+void PopoverPanel::place()
+{
+    adjustSize();
+    QWidget* const area = window();
+    const QRect room = area->rect().adjusted(4, 4, -4, -4);
+    resize(std::min(width(), room.width()), std::min(height(), room.height()));
+    QRect anchor = m_anchor ? m_anchor() : QRect(m_host->mapToGlobal(QPoint()), m_host->size());
+    anchor.moveTopLeft(area->mapFromGlobal(anchor.topLeft()));
+    const int middle =
+        std::clamp(anchor.left() + std::min(anchor.width(), 320) / 2, room.left(), room.right());
+    const bool below = anchor.bottom() + height() <= room.bottom() ||
+                       room.bottom() - anchor.bottom() >= anchor.top() - room.top();
+    const int top = below ? anchor.bottom() : anchor.top() - height();
+    const int left = middle - width() / 2;
+    move(std::clamp(left, room.left(), std::max(room.left(), room.right() - width())),
+         std::clamp(top, room.top(), std::max(room.top(), room.bottom() - height())));
+    m_tip = mapFrom(area, QPoint(middle, below ? anchor.bottom() : anchor.top()));
+}
+
+void PopoverPanel::cancel()
+{
+    if (m_cancel)
+        m_cancel();
+    else
+        m_outlet.close();
+}
+
+void PopoverPanel::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape) {
+        cancel();
+        return;
+    }
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        if (m_ok && m_ok->isEnabled())
+            m_ok->click();
+        return;
+    }
+    QFrame::keyPressEvent(event);
+}
+
+void PopoverPanel::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF body = QRectF(rect()).adjusted(arrow, arrow, -arrow, -arrow);
+    QPainterPath shape;
+    shape.addRoundedRect(body, radius, radius);
+    const bool above = m_tip.y() <= body.top();
+    const bool beneath = m_tip.y() >= body.bottom();
+    if (above || beneath) {
+        const double x = std::clamp(double(m_tip.x()), body.left() + 2 * arrow, body.right() - 2 * arrow);
+        const double edge = above ? body.top() : body.bottom();
+        const double tip = above ? edge - arrow + 1 : edge + arrow - 1;
+        QPainterPath pointer;
+        pointer.moveTo(x - arrow, edge);
+        pointer.lineTo(x, tip);
+        pointer.lineTo(x + arrow, edge);
+        pointer.closeSubpath();
+        shape = shape.united(pointer);
+    }
+    painter.setBrush(palette().color(QPalette::Window));
+    QColor line = palette().color(QPalette::WindowText);
+    line.setAlphaF(0.35F);
+    painter.setPen(line);
+    painter.drawPath(shape);
+}
+
+bool PopoverPanel::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Resize && watched == window() && isVisible()) {
+        m_shield->setGeometry(window()->rect());
+        place();
+    }
+    return QFrame::eventFilter(watched, event);
+}
+
+// Tab goes round inside the panel.
+bool PopoverPanel::focusNextPrevChild(bool next)
+{
+    QWidget* const start = focusWidget() ? focusWidget() : this;
+    const auto step = [next](QWidget* w) { return next ? w->nextInFocusChain() : w->previousInFocusChain(); };
+    for (QWidget* w = step(start); w != start; w = step(w)) {
+        if (isAncestorOf(w) && w->isEnabled() && w->isVisibleTo(this) && (w->focusPolicy() & Qt::TabFocus)) {
+            w->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace zelvor

@@ -1,0 +1,173 @@
+#include "desktop/table_view_model.h"
+
+#include "core/formats.h"
+#include "desktop/cell_text.h"
+
+#include <QtCore/QPointer>
+#include <QtGui/QGuiApplication>
+
+#include <algorithm>
+#include <utility>
+
+namespace zelvor {
+
+bool matchesAllWords(const QStringList& words, const QString& text)
+{
+    return std::ranges::all_of(
+        words, [&text](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });
+}
+
+QStringList filterWords(const QString& filter)
+{
+    return filter.simplified().split(u' ', Qt::SkipEmptyParts);
+}
+
+TableViewModel::TableViewModel(TableView& view, const Calendar& calendar, QObject* parent)
+    : QAbstractTableModel(parent), m_view(view), m_calendar(calendar), m_columns(view.columns())
+{
+    const QPointer<TableViewModel> self(this);
+    view.onReload([self] {
+        if (self)
+            self->reload();
+    });
+}
+
+int TableViewModel::columnWithIdentifier(const QString& identifier) const
+{
+    const auto place = std::ranges::find(m_columns, identifier, &ViewColumn::identifier);
+    return place == m_columns.end() ? -1 : static_cast<int>(place - m_columns.begin());
+}
+
+int TableViewModel::viewRow(int shownRow) const
+{
+    if (shownRow < 0 || shownRow >= m_rowCount)
+        return -1;
+    return m_filter.isEmpty() ? shownRow : m_filteredRows[static_cast<std::size_t>(shownRow)];
+}
+
+int TableViewModel::shownRow(int viewRow) const
+{
+    if (m_filter.isEmpty())
+        return viewRow >= 0 && viewRow < m_rowCount ? viewRow : -1;
+    const auto place = std::ranges::lower_bound(m_filteredRows, viewRow);
+    return place == m_filteredRows.end() || *place != viewRow
+               ? -1
+               : static_cast<int>(place - m_filteredRows.begin());
+}
+
+void TableViewModel::setFilter(const QString& filter)
+{
+    if (filter.simplified() == m_filter)
+        return;
+    beginResetModel();
+    m_filter = filter.simplified();
+    applyFilter();
+    endResetModel();
+}
+
+void TableViewModel::refresh()
+{
+    const int rows = m_view.numberOfRows(); // a stale view reads, and tells of it by itself
+    if (m_filter.isEmpty() && rows != m_rowCount)
+        reload();
+}
+
+// Asking for the rows may make the view read and tell of a reload: that is this one.
+void TableViewModel::reload()
+{
+    if (m_reloading)
+        return;
+    m_reloading = true;
+    beginResetModel();
+    m_columns = m_view.columns();
+    applyFilter();
+    endResetModel();
+    m_reloading = false;
+}
+
+void TableViewModel::applyFilter()
+{
+    const int rows = m_view.numberOfRows();
+    m_filteredRows.clear();
+    if (m_filter.isEmpty()) {
+        m_rowCount = rows;
+        return;
+    }
+    const QStringList words = filterWords(m_filter);
+    for (int row = 0; row < rows; ++row) {
+        if (rowMatches(row, words))
+            m_filteredRows.push_back(row);
+    }
+    m_rowCount = static_cast<int>(m_filteredRows.size());
+}
+
+bool TableViewModel::rowMatches(int row, const QStringList& words) const
+{
+    QString texts;
+    for (const ViewColumn& column : m_columns) {
+        if (column.hidden || column.kind == CellKind::CheckBox || column.kind == CellKind::Image)
+            continue;
+        texts += cellText(m_view.value(row, column.identifier), column.kind, m_calendar, QLocale());
+        texts += u'\n';
+    }
+    return matchesAllWords(words, texts);
+}
+
+int TableViewModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : m_rowCount;
+}
+
+int TableViewModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
+}
+
+QVariant TableViewModel::data(const QModelIndex& index, int role) const
+{
+    const int row = index.isValid() ? viewRow(index.row()) : -1;
+    if (row < 0 || index.column() >= static_cast<int>(m_columns.size()))
+        return {};
+    const ViewColumn& column = m_columns[static_cast<std::size_t>(index.column())];
+    if (role == Qt::SizeHintRole || role == Qt::StatusTipRole || role == Qt::WhatsThisRole)
+        return {};
+    return cellData(m_view.value(row, column.identifier), m_view.cellStyle(row, column.identifier), column,
+                    role, {m_calendar, QGuiApplication::font(), QGuiApplication::palette()});
+}
+
+bool TableViewModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    const int row = index.isValid() ? viewRow(index.row()) : -1;
+    if (row < 0 || (role != Qt::EditRole && role != Qt::CheckStateRole))
+        return false;
+    const ViewColumn& column = m_columns[static_cast<std::size_t>(index.column())];
+    const QVariant given = role == Qt::CheckStateRole ? QVariant(value.toInt() == Qt::Checked) : value;
+    return m_view.setValue(row, column.identifier, given);
+}
+
+QVariant TableViewModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section < 0 || section >= static_cast<int>(m_columns.size()))
+        return {};
+    return headerCellData(m_columns[static_cast<std::size_t>(section)], role);
+}
+
+Qt::ItemFlags TableViewModel::flags(const QModelIndex& index) const
+{
+    const int row = index.isValid() ? viewRow(index.row()) : -1;
+    if (row < 0)
+        return Qt::NoItemFlags;
+    const ViewColumn& column = m_columns[static_cast<std::size_t>(index.column())];
+    return cellFlags(column, column.editable ? m_view.value(row, column.identifier) : QVariant());
+}
+
+void TableViewModel::sort(int column, Qt::SortOrder order)
+{
+    if (column < 0 || column >= static_cast<int>(m_columns.size()))
+        return;
+    const QString key = m_columns[static_cast<std::size_t>(column)].sortKey;
+    if (!key.isEmpty())
+        m_view.sort(key, order == Qt::AscendingOrder);
+}
+
+} // namespace zelvor
