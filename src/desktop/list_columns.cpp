@@ -26,7 +26,7 @@ int widestText(const QAbstractItemModel& model, int column, const QFontMetrics& 
 int fittedWidth(const QHeaderView& header, const QAbstractItemModel& model, const ViewColumn& column,
                 int section, const QFontMetrics& metrics)
 {
-    const int title = header.sectionSizeFromContents(section).width();
+    const int title = header.sectionSizeHint(section);
     const int padding = 2 * measures::rowPadding;
     switch (column.kind) {
     case CellKind::Amount:
@@ -87,7 +87,7 @@ void fitColumns(QHeaderView& header, const QAbstractItemModel& model, const std:
         header.setStretchLastSection(true);
 }
 
-void sortByColumn(QAbstractItemModel& model, QHeaderView& header, const std::vector<ViewColumn>& columns,
+void sortByClick(QAbstractItemModel& model, QHeaderView& header, const std::vector<ViewColumn>& columns,
                   int column)
 {
     if (column < 0 || column >= static_cast<int>(columns.size()) ||

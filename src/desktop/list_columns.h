@@ -16,7 +16,7 @@ void prepareHeader(QHeaderView& header);
 void fitColumns(QHeaderView& header, const QAbstractItemModel& model, const std::vector<ViewColumn>& columns,
                 const QFontMetrics& metrics);
 // A click on a header: sorts where the column sorts, the second time the other way round.
-void sortByColumn(QAbstractItemModel& model, QHeaderView& header, const std::vector<ViewColumn>& columns,
+void sortByClick(QAbstractItemModel& model, QHeaderView& header, const std::vector<ViewColumn>& columns,
                   int column);
 int firstShownColumn(const std::vector<ViewColumn>& columns);
 std::vector<QString> shownIdentifiers(const std::vector<ViewColumn>& columns);

@@ -21,6 +21,7 @@ OutlineViewModel::OutlineViewModel(OutlineView& view, const Calendar& calendar, 
         if (self)
             self->reload();
     });
+    reload();
 }
 
 OutlineViewModel::~OutlineViewModel() = default;
@@ -55,6 +56,7 @@ void OutlineViewModel::reload()
     m_view.numberOfChildren(nullptr); // has a stale tree read now, not between two of Qt's questions
     m_columns = m_view.columns();
     m_branches.clear();
+    branchOf(nullptr, nullptr, 0);
     endResetModel();
     m_reloading = false;
 }

@@ -5,6 +5,7 @@
 #include "desktop/theme.h"
 
 #include <QtCore/QEvent>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
@@ -31,7 +32,7 @@ TableList::TableList(TableView& view, const Calendar& calendar, QWidget* parent)
     verticalHeader()->setDefaultSectionSize(listRowHeight(fontMetrics()));
     prepareHeader(*horizontalHeader());
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
-            [this](int column) { sortByColumn(*m_model, *horizontalHeader(), m_model->columns(), column); });
+            [this](int column) { sortByClick(*m_model, *horizontalHeader(), m_model->columns(), column); });
     connect(m_model, &QAbstractItemModel::modelReset, this, [this] {
         adoptColumns();
         restoreSelection();

@@ -30,6 +30,7 @@ TableViewModel::TableViewModel(TableView& view, const Calendar& calendar, QObjec
         if (self)
             self->reload();
     });
+    reload();
 }
 
 int TableViewModel::columnWithIdentifier(const QString& identifier) const

@@ -31,7 +31,7 @@ TreeList::TreeList(OutlineView& view, const Calendar& calendar, QWidget* parent)
     setDefaultDropAction(Qt::MoveAction);
     prepareHeader(*header());
     connect(header(), &QHeaderView::sectionClicked, this,
-            [this](int column) { sortByColumn(*m_model, *header(), m_model->columns(), column); });
+            [this](int column) { sortByClick(*m_model, *header(), m_model->columns(), column); });
     connect(m_model, &QAbstractItemModel::modelReset, this, [this] { restoreRows(); });
     connect(this, &QTreeView::expanded, this, [this](const QModelIndex& index) {
         if (!m_restoring && m_model->filter().isEmpty())
