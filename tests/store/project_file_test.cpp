@@ -200,6 +200,23 @@ TEST_F(ProjectFiles, whatIsNoProjectIsRefusedInOneLine)
     expectRefused(path(u"mark.pdb"_s), u"another program"_s);
 }
 
+TEST_F(ProjectFiles, aNewProjectCarriesTheMarkThatFileManagersLookFor)
+{
+    const QByteArray content = contentOf(path());
+    EXPECT_TRUE(content.startsWith(QByteArray("SQLite format 3\0", 16)));
+    EXPECT_EQ(content.mid(68, 4), "ZLVR");
+}
+
+TEST_F(ProjectFiles, aProjectWithoutTheMarkOpensAndIsNotMarked)
+{
+    connector.close();
+    ASSERT_TRUE(run(path(), "PRAGMA application_id=0"));
+    ASSERT_TRUE(connector.open(path())) << connector.openError().toStdString();
+    add();
+    connector.close();
+    EXPECT_EQ(contentOf(path()).mid(68, 4), QByteArray(4, '\0'));
+}
+
 TEST_F(ProjectFiles, onlyPlainTablesAndIndexesAreAccepted)
 {
     const char* const hostile[] = {
