@@ -16,6 +16,7 @@ zelvor_packages=(
     fonts-urw-base35 fonts-liberation
     libgtest-dev libbenchmark-dev
     python3 tzdata
+    desktop-file-utils appstream shared-mime-info libglib2.0-bin groff-base
 )
 
 as_root() {

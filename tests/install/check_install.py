@@ -84,6 +84,8 @@ def theIdentifierIsTheSameEverywhere():
     assert component.findtext("id") == APP_ID
     assert component.findtext("launchable") == f"{APP_ID}.desktop"
     assert component.findtext("provides/mediatype") == MIME_TYPE
+    if has_desktop:  # windows are matched with the menu entry by this text, which Qt programs hold in UTF-16
+        assert APP_ID.encode("utf-16-le") in (tree / "usr/bin/zelvor").read_bytes()
     version = output_of(str(cli), "--version").split()[-1]
     assert component.find("releases/release").get("version") == version
     kind = ElementTree.parse(share / f"mime/packages/{APP_ID}.xml").getroot()[0]
