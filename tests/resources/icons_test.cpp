@@ -4,10 +4,15 @@
 #include <gtest/gtest.h>
 
 #include <QtCore/QDir>
+#include <QtCore/QDirIterator>
 #include <QtCore/QFile>
 #include <QtCore/QHash>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QSet>
 #include <QtCore/QStringList>
 #include <QtCore/QXmlStreamReader>
+
+#include <utility>
 
 using namespace zelvor;
 using namespace Qt::Literals::StringLiterals;
@@ -101,6 +106,25 @@ TEST(Icons, everyCurrencyHasAFlag)
         EXPECT_TRUE(QFile::exists(iconFolder + file)) << file.toStdString();
         EXPECT_FALSE(isLineIcon(file)) << file.toStdString();
     }
+}
+
+// A name that nobody drew would show as nothing at all.
+TEST(Icons, everyPictureThatTheDesktopAsksForByNameIsThere)
+{
+    static const QRegularExpression asked(uR"x((?:lineIcon|pictureIcon)\(u"([^"]+)"_s\))x"_s);
+    QSet<QString> names;
+    QDirIterator sources(QStringLiteral(ZELVOR_DESKTOP_DIR), {u"*.cpp"_s}, QDir::Files,
+                         QDirIterator::Subdirectories);
+    while (sources.hasNext()) {
+        QFile source(sources.next());
+        ASSERT_TRUE(source.open(QIODevice::ReadOnly));
+        QRegularExpressionMatchIterator matches = asked.globalMatch(QString::fromUtf8(source.readAll()));
+        while (matches.hasNext())
+            names.insert(matches.next().captured(1));
+    }
+    EXPECT_FALSE(names.isEmpty());
+    for (const QString& name : std::as_const(names))
+        EXPECT_TRUE(QFile::exists(iconFolder + name + u".svg"_s)) << name.toStdString();
 }
 
 TEST(Icons, noTwoAreTheSamePicture)
