@@ -33,8 +33,9 @@ void PeriodClosing::askToClose(qint64 date)
                   "procedure you can not confirm any document with date from last month!"),
         {localized("Proceed"), localized("Cancel")},
         1};
-    appDelegate.dialogs.ask(question, [this, date](int answer) {
-        if (answer == firstButton)
+    appDelegate.dialogs.ask(question, [this, date, asked = appDelegate.connector.path()](int answer) {
+        // The books of another project may be open when the answer comes.
+        if (answer == firstButton && appDelegate.connector.path() == asked)
             closeAsAnswered(date);
     });
 }

@@ -87,7 +87,8 @@ void ApplicationShell::prepareMainWindow()
 
 void ApplicationShell::showDefaults()
 {
-    if (appDelegate.connector.isOpen())
+    // Once up, it keeps what is being typed.
+    if (appDelegate.connector.isOpen() && !preferences.window.isOpen())
         preferences.showWindow();
 }
 

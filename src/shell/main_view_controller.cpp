@@ -252,14 +252,16 @@ void MainViewController::openProductDocument(std::shared_ptr<ProductDocument> do
         window->adjustWindowWidthForProductDocument(productDocumentWidth);
     const auto form = std::make_shared<ProductDocumentViewController>(appDelegate, std::move(document));
     ProductDocumentView& view = form->mainView;
-    form->onClose = [this, shown = &view] { closeWithoutQuestion(*shown); };
+    form->onClose = [this, shown = &view] { formClosed(*shown); };
     form->prepareData();
     openPage(form, view);
 }
 
 bool MainViewController::addDocumentWithID(qint64 id, const QString& type)
 {
-    if (const std::optional<int> position = tabView.hasViewOfType(type, id)) {
+    // New documents have the id 0: nobody means one of those.
+    const std::optional<int> position = id != 0 ? tabView.hasViewOfType(type, id) : std::nullopt;
+    if (position) {
         tabView.openExistingTab(*position);
         return true;
     }
@@ -295,14 +297,17 @@ void MainViewController::addPeriodSellReport()
 void MainViewController::removedPageAtIndex(int index)
 {
     openedView.erase(openedView.begin() + index);
-    m_lastClosed = std::move(m_openedControllers[static_cast<std::size_t>(index)]);
+    const auto controller = std::move(m_openedControllers[static_cast<std::size_t>(index)]);
     m_openedControllers.erase(m_openedControllers.begin() + index);
-    if (m_lastClosed)
-        m_lastClosed->clearSelf();
+    if (controller)
+        controller->clearSelf();
 }
 
-void MainViewController::closeWithoutQuestion(const BaseView& view)
+void MainViewController::formClosed(const BaseView& view)
 {
+    if (view.index() < 0)
+        return;
+    m_lastClosed = m_openedControllers[static_cast<std::size_t>(view.index())];
     tabView.sendCloseToHeaderTab(view.index());
 }
 
@@ -317,12 +322,13 @@ bool MainViewController::hasUnsavedChanges(int position) const
 
 void MainViewController::closeTab(int position)
 {
+    m_lastClosed.reset();
     if (!hasUnsavedChanges(position)) {
         tabView.sendCloseToHeaderTab(position);
         return;
     }
     const BaseView* view = openedView[static_cast<std::size_t>(position)];
-    const auto close = [this, view] { closeWithoutQuestion(*view); };
+    const auto close = [this, view] { tabView.sendCloseToHeaderTab(view->index()); };
     askToSave(position, close, close);
 }
 

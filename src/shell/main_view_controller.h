@@ -135,7 +135,7 @@ private:
     void cancelForms();
     void openPage(std::shared_ptr<ModelViewController> controller, BaseView& view);
     void openProductDocument(std::shared_ptr<ProductDocument> document);
-    void closeWithoutQuestion(const BaseView& view);
+    void formClosed(const BaseView& view);
     void askToSave(int position, std::function<void()> goOn, std::function<void()> drop);
     void leaveUnlessDropped(std::function<void()> then, Dropped dropped);
     void notReleased();
@@ -144,7 +144,7 @@ private:
     bool m_leftViewCollapsed = false;
     // The controllers behind openedView; none for a permanent view.
     std::vector<std::shared_ptr<ModelViewController>> m_openedControllers;
-    // A form that had its tab taken away is still at work when it asked for that itself.
+    // A form that asked for its tab to be taken away: it is still at work then.
     std::shared_ptr<ModelViewController> m_lastClosed;
     std::vector<NotificationCenter::Observation> m_observations;
 };

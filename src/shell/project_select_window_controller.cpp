@@ -148,7 +148,8 @@ void ProjectSelectWindowController::open(const QString& path, std::function<void
         return;
     }
     const Alert question{localized("The project is in use by another program."),
-                         localized("It can be opened for reading. Nothing can be changed then."),
+                         connector.openError() + u'\n' +
+                             localized("It can be opened for reading. Nothing can be changed then."),
                          {localized("Open Read-Only"), localized("Cancel")},
                          0};
     appDelegate.dialogs.ask(question, [&connector, path, then = std::move(then)](int answer) {

@@ -39,7 +39,11 @@ void UserDefaultsController::bindOutlets()
     applyButton.onUserChange = [this] { applyChanges(); };
     useVATCheck.onUserChange = [this] { selectVATUseChanged(); };
     useGSTCheck.onUserChange = [this] { selectGSTUseChanged(); };
-    for (NumberField* field : {&maxDeferment, &vatRate, &gstRate}) {
+    maxDeferment.onUserChange = [this] {
+        maxDeferment.setValue(Decimal(maxDeferment.integer())); // whole days
+        defaultsChanged();
+    };
+    for (NumberField* field : {&vatRate, &gstRate}) {
         field->onUserChange = [this, field] {
             if (field->isEmpty() || field->value().isNaN())
                 field->setValue(0);
@@ -216,8 +220,8 @@ void UserDefaultsController::applyChanges()
 bool UserDefaultsController::hasStorableNumbers()
 {
     QString refusal;
-    const Decimal& days = maxDeferment.value();
-    if (days.isNaN() || days.isNegative() || days > Decimal(longestDeferment))
+    const qint64 days = maxDeferment.integer();
+    if (days < 0 || days > longestDeferment)
         refusal = localized("The longest deferment must lie between 0 and 36500 days.");
     else if (!isPercentage(vatRate))
         refusal = localized("The VAT rate must lie between 0 and 100 percent.");

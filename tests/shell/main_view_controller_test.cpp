@@ -71,4 +71,25 @@ TEST_F(FootLine, answersTheQuestionsOfTheCalendarOfMonths)
     EXPECT_EQ(main.clearDate(books.appDelegate.now()), 1699920000.0);
 }
 
+TEST_F(FootLine, nothingIsReadBeforeSomebodyLooks)
+{
+    main.checkParams();
+    const qint64 before = books.db.statementCount();
+    main.prepareAllData();
+    EXPECT_EQ(books.db.statementCount(), before);
+    EXPECT_FALSE(books.posted.has(NotificationName::BalanceCalculatedNotification));
+}
+
+TEST_F(FootLine, theHeaderIsDrawnAnewWhenSettingsOrBalanceChange)
+{
+    int drawn = 0;
+    main.onHeaderPanelChanged = [&drawn] { ++drawn; };
+    main.checkParams();
+    EXPECT_EQ(drawn, 1);
+    showBalance(true); // the settings, and the balance that they ask for
+    EXPECT_EQ(drawn, 3);
+    books.appDelegate.notifications.post(NotificationName::BalanceChangedNotification);
+    EXPECT_EQ(drawn, 4);
+}
+
 } // namespace zelvor

@@ -204,4 +204,81 @@ TEST_F(ProjectWindow, whatIsNoProjectIsNotListed)
     EXPECT_EQ(opened, 0);
 }
 
+TEST_F(ProjectWindow, aProjectThatCannotBeMadeOrOpenedIsReported)
+{
+    program.dialogs.savePaths.push_back(program.file(u"nowhere/shop"_s));
+    window.createNewBusiness();
+    EXPECT_EQ(program.dialogs.lastAlert(), u"Can't open project file!"_s);
+    add(program.file(u"missing.pdb"_s));
+    EXPECT_EQ(program.dialogs.alerts.size(), 2U);
+    EXPECT_EQ(program.dialogs.lastAlert(), u"Can't open project file!"_s);
+    EXPECT_TRUE(window.window.isOpen());
+}
+
+TEST_F(ProjectWindow, aProjectInUseCanBeOpenedForReading)
+{
+    const QString path = existing(u"shop.pdb"_s);
+    Connector other;
+    ASSERT_TRUE(other.open(path));
+    program.dialogs.answers.push_back(firstButton);
+    add(path);
+    ASSERT_EQ(program.dialogs.questions.size(), 1U);
+    const Alert& question = program.dialogs.questions.front();
+    EXPECT_EQ(question.messageText, u"The project is in use by another program."_s);
+    EXPECT_TRUE(question.informativeText.contains(u"in use by"_s));
+    EXPECT_EQ(question.buttons, (QStringList{u"Open Read-Only"_s, u"Cancel"_s}));
+    EXPECT_EQ(opened, 1);
+    EXPECT_TRUE(program.appDelegate.connector.isReadOnly());
+    EXPECT_EQ(program.defaults.defaultBusiness(), u"shop"_s);
+    EXPECT_EQ(names(), QStringList{u"shop"_s});
+    EXPECT_FALSE(window.window.isOpen());
+}
+
+TEST_F(ProjectWindow, aProjectInUseCanBeLeftAlone)
+{
+    const QString path = existing(u"shop.pdb"_s);
+    Connector other;
+    ASSERT_TRUE(other.open(path));
+    program.dialogs.answers.push_back(firstButton + 1);
+    add(path);
+    EXPECT_EQ(opened, 0);
+    EXPECT_FALSE(program.appDelegate.connector.isOpen());
+    EXPECT_TRUE(names().isEmpty());
+    EXPECT_TRUE(program.dialogs.alerts.empty());
+    EXPECT_TRUE(window.window.isOpen());
+}
+
+TEST_F(ProjectWindow, aKnownProjectInUseIsAskedForInTheSameWay)
+{
+    const QString path = existing(u"my_shop.pdb"_s);
+    add(path);
+    program.appDelegate.connector.close();
+    Connector other;
+    ASSERT_TRUE(other.open(path));
+    ASSERT_TRUE(select(0));
+    program.dialogs.answers = {firstButton + 1, firstButton};
+    window.openProject();
+    EXPECT_EQ(opened, 1);
+    EXPECT_EQ(names().size(), 1);
+    window.openProject();
+    EXPECT_EQ(opened, 2);
+    EXPECT_TRUE(program.appDelegate.connector.isReadOnly());
+    EXPECT_EQ(program.defaults.defaultBusiness(), u"my_shop"_s);
+    EXPECT_EQ(program.dialogs.questions.size(), 2U);
+}
+
+TEST_F(ProjectWindow, aProjectThatVanishedWhileTheQuestionStoodIsReported)
+{
+    const QString path = existing(u"shop.pdb"_s);
+    Connector other;
+    ASSERT_TRUE(other.open(path));
+    add(path);
+    ASSERT_EQ(program.dialogs.unanswered.size(), 1U);
+    other.close();
+    ASSERT_TRUE(QFile::remove(path));
+    program.dialogs.unanswered.front()(firstButton);
+    EXPECT_EQ(program.dialogs.lastAlert(), u"Can't open project file!"_s);
+    EXPECT_EQ(opened, 0);
+}
+
 } // namespace zelvor
