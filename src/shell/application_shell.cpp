@@ -14,6 +14,13 @@ ApplicationShell::ApplicationShell(AppDelegate& owner)
         mainWindowController.clearWindow();
         checkDefaultCurrency();
     };
+    startWindowController.onLeaveProject = [this](std::function<void()> then) {
+        mainWindowController.leave([this, goOn = std::move(then)] {
+            if (appDelegate.connector.isOpen())
+                leaveProject();
+            goOn();
+        });
+    };
     preferences.onShowMainWindow = [this] { window.open(); };
     preferences.onCheckDefaultCurrency = [this] { checkDefaultCurrency(); };
     preferences.onLeaveProject = [this] { closeWindow(); };

@@ -64,6 +64,8 @@ void ProjectSelectWindowController::initRecentBusinesses()
                              [](const Business& a, const Business& b) { return textLess(a.name, b.name); });
     tableView.selectRow(-1);
     tableViewSelectionDidChange();
+    if (onReload)
+        onReload();
 }
 
 void ProjectSelectWindowController::tableViewSelectionDidChange()
@@ -86,7 +88,21 @@ void ProjectSelectWindowController::createNewBusiness()
         {localized("Creating new Business"), localized("Name"), localized("Create"), u"pdb"_s});
     if (!chosen)
         return;
-    const QString path = projectPathOf(*chosen);
+    leaveOpenProject([this, path = projectPathOf(*chosen)] { createAt(path); });
+}
+
+// A failed opening leaves nothing open, so the project that is has its documents saved and its window closed
+// before.
+void ProjectSelectWindowController::leaveOpenProject(std::function<void()> then)
+{
+    if (appDelegate.connector.isOpen() && onLeaveProject)
+        onLeaveProject(std::move(then));
+    else
+        then();
+}
+
+void ProjectSelectWindowController::createAt(const QString& path)
+{
     if (!createProject(appDelegate.connector, path)) {
         reportUnopened(path);
         return;
@@ -100,11 +116,13 @@ void ProjectSelectWindowController::openExistingProject()
         {localized("Open Existing Project"), localized("Name"), localized("Open"), {u"pdb"_s}});
     if (!path)
         return;
-    open(*path, [this, chosen = *path](Opening opening) {
-        if (opening == Opening::Opened)
-            projectOpened(registerProject(chosen));
-        else if (opening == Opening::Failed)
-            reportUnopened(chosen);
+    leaveOpenProject([this, chosen = *path] {
+        open(chosen, [this, chosen](Opening opening) {
+            if (opening == Opening::Opened)
+                projectOpened(registerProject(chosen));
+            else if (opening == Opening::Failed)
+                reportUnopened(chosen);
+        });
     });
 }
 
@@ -113,7 +131,23 @@ void ProjectSelectWindowController::openProject()
     const Business* selected = selectedBusiness();
     if (!selected)
         return;
-    open(selected->url, [this, business = *selected](Opening opening) {
+    if (isOpenNow(*selected)) {
+        window.close();
+        return;
+    }
+    if (!QFileInfo::exists(selected->url)) {
+        offerToForget(*selected);
+        return;
+    }
+    leaveOpenProject([this, business = *selected] {
+        selectBusiness(business);
+        openBusiness(business);
+    });
+}
+
+void ProjectSelectWindowController::openBusiness(const Business& business)
+{
+    open(business.url, [this, business](Opening opening) {
         if (opening == Opening::Opened)
             projectOpened(businessKey(business.name));
         else if (opening == Opening::Failed && QFileInfo::exists(business.url))
@@ -121,6 +155,22 @@ void ProjectSelectWindowController::openProject()
         else if (opening == Opening::Failed)
             offerToForget(business);
     });
+}
+
+bool ProjectSelectWindowController::isOpenNow(const Business& business) const
+{
+    const Connector& connector = appDelegate.connector;
+    return connector.isOpen() && QFileInfo(connector.path()) == QFileInfo(business.url);
+}
+
+// Leaving a project reads the list anew, and nothing is selected then.
+void ProjectSelectWindowController::selectBusiness(const Business& business)
+{
+    const auto found = std::ranges::find(businesses, business.name, &Business::name);
+    if (found == businesses.end())
+        return;
+    tableView.selectRow(static_cast<int>(found - businesses.begin()));
+    tableViewSelectionDidChange();
 }
 
 void ProjectSelectWindowController::openFile(const QString& path)

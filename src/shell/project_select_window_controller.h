@@ -26,6 +26,10 @@ public:
 
     // A project was opened or created: this window has closed, the default currency is to be checked.
     std::function<void()> onProjectOpened;
+    // The project that is open is to be left first; `then` runs when it was, and not when the user keeps it.
+    std::function<void(std::function<void()> then)> onLeaveProject;
+    // The list was read anew.
+    std::function<void()> onReload;
 
     void showWindow();
     void initRecentBusinesses();
@@ -47,7 +51,12 @@ private:
 
     // Opens the project; one that another program holds, for reading only, if the user wants that.
     void open(const QString& path, std::function<void(Opening)> then);
+    void leaveOpenProject(std::function<void()> then);
+    void createAt(const QString& path);
+    void openBusiness(const Business& business);
+    bool isOpenNow(const Business& business) const;
     const Business* selectedBusiness() const;
+    void selectBusiness(const Business& business);
     void projectOpened(const QString& key);
     void reportUnopened(const QString& path);
     void offerToForget(const Business& business);
