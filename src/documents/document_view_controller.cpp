@@ -38,7 +38,7 @@ bool DocumentViewController::isReadyToConfirm()
 {
     const QStringList missing = missingInputs();
     if (documentModel().confirmed)
-        fail("The document is confirmed already.\n");
+        fail(localized("The document is confirmed already.\n"));
     else if (!missing.isEmpty())
         alertMessage += localized("These inputs are missing: ") + missing.join(u", "_s) + u".\n"_s;
     if (alertMessage.isEmpty())
@@ -93,8 +93,8 @@ bool DocumentViewController::setDocumentNumber()
         if (appDelegate.connector.update(*counters.front()) == 1)
             return true;
     }
-    fail("Can't get serial number for document.\n");
-    fail("Can't confirm document.\n");
+    fail(localized("Can't get serial number for document.\n"));
+    fail(localized("Can't confirm document.\n"));
     return false;
 }
 
@@ -152,9 +152,9 @@ void DocumentViewController::showAlert()
     alertMessage.clear();
 }
 
-void DocumentViewController::fail(const char* sentence)
+void DocumentViewController::fail(const QString& sentence)
 {
-    alertMessage += localized(sentence);
+    alertMessage += sentence;
 }
 
 } // namespace zelvor

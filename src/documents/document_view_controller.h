@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/localized.h"
 #include "core/notification_center.h"
 #include "core/outlets.h"
 #include "documents/document_model.h"
@@ -45,7 +46,7 @@ protected:
         const qint64 id = documentModel().id;
         if (id == 0 || appDelegate.connector.any<Document>("WHERE id=? AND is_confirmed=0", {id}))
             return true;
-        fail("The document was confirmed or deleted in the meantime.\n");
+        fail(localized("The document was confirmed or deleted in the meantime.\n"));
         return false;
     }
     // No confirmed document with a later date, not from the future, not in a closed period; closes the last
@@ -63,7 +64,7 @@ protected:
     // Behind a failed confirmation: whoever read a month as closed inside the transaction reads it anew.
     void announceTakenBack();
     void showAlert();
-    void fail(const char* sentence); // adds the localised sentence to alertMessage
+    void fail(const QString& sentence); // adds the sentence to alertMessage
 
 private:
     bool hasLaterDocument(qint64 date);

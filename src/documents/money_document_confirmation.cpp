@@ -128,8 +128,8 @@ bool MoneyDocumentViewController::checkAccountBalance()
 {
     const auto account = appDelegate.connector.select<Account>(document->accountFromID, Fill::Nothing);
     if (!account) {
-        fail("Failed to check account balance.\n");
-        fail("Can't confirm document.\n");
+        fail(localized("Failed to check account balance.\n"));
+        fail(localized("Can't confirm document.\n"));
         return false;
     }
     document->settAccountFrom(account);
@@ -150,8 +150,8 @@ bool MoneyDocumentViewController::minusMoneyFromAccount()
     if (appDelegate.connector.update(account) == 1)
         return true;
     account.innerBalance = balance;
-    fail("Failed to subtract doc sum from account balance.\n");
-    fail("Can't confirm document.\n");
+    fail(localized("Failed to subtract doc sum from account balance.\n"));
+    fail(localized("Can't confirm document.\n"));
     return false;
 }
 
@@ -170,8 +170,8 @@ bool MoneyDocumentViewController::plusMoneyToAccount()
             return true;
         account->innerBalance = document->innerAccountToBalance;
     }
-    fail("Failed to add doc sum to account balance.\n");
-    fail("Can't confirm document.\n");
+    fail(localized("Failed to add doc sum to account balance.\n"));
+    fail(localized("Can't confirm document.\n"));
     return false;
 }
 
@@ -189,8 +189,8 @@ bool MoneyDocumentViewController::changeContragentBalance()
             return true;
         contragent->innerBalance = document->innerContragentBalance;
     }
-    fail("Failed to update contragent balance.\n");
-    fail("Can't confirm document.\n");
+    fail(localized("Failed to update contragent balance.\n"));
+    fail(localized("Can't confirm document.\n"));
     return false;
 }
 
@@ -209,8 +209,8 @@ bool MoneyDocumentViewController::changeEmployeeBalance()
             return true;
         employee->innerBalance = document->innerManagerBalance;
     }
-    fail("Failed to update employee balance.\n");
-    fail("Can't confirm document.\n");
+    fail(localized("Failed to update employee balance.\n"));
+    fail(localized("Can't confirm document.\n"));
     return false;
 }
 

@@ -225,8 +225,8 @@ bool ProductDocumentViewController::deleteProductsFromStock()
                1;
     });
     if (!deleted) {
-        fail("Failed to delete products from WH.\n");
-        fail("Can't confirm document.\n");
+        fail(localized("Failed to delete products from WH.\n"));
+        fail(localized("Can't confirm document.\n"));
     }
     return deleted;
 }
@@ -246,8 +246,8 @@ bool ProductDocumentViewController::addProductsToStock()
         return connector.insert(stockRow) == 1;
     });
     if (!added) {
-        fail("Failed to add products to WH.\n");
-        fail("Can't confirm document.\n");
+        fail(localized("Failed to add products to WH.\n"));
+        fail(localized("Can't confirm document.\n"));
     }
     return added;
 }
@@ -300,8 +300,8 @@ bool ProductDocumentViewController::changeBaseCosts()
         return connector.update(product) == 1;
     });
     if (!changed) {
-        fail("Failed to change product's base cost\n");
-        fail("Can't confirm document.\n");
+        fail(localized("Failed to change product's base cost\n"));
+        fail(localized("Can't confirm document.\n"));
     }
     return changed;
 }
@@ -344,8 +344,8 @@ bool ProductDocumentViewController::changeContragentBalance()
     }
     if (appDelegate.connector.update(contragent) == 1)
         return true;
-    fail("Failed to change contragent's balance.\n");
-    fail("Can't confirm document.\n");
+    fail(localized("Failed to change contragent's balance.\n"));
+    fail(localized("Can't confirm document.\n"));
     return false;
 }
 

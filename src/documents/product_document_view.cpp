@@ -67,9 +67,8 @@ std::vector<ViewColumn> ProductDocumentView::columns() const
     const bool untaxed = tax() == Tax::None;
     const DocType type = document().docType();
     const bool sharesShipment = type == DocType::BuyProduct || type == DocType::Return;
-    const auto amount = [](const QString& identifier, const char* title, bool canEdit, bool hidden) {
-        return ViewColumn{identifier, localized(title), CellKind::Amount, CellAlignment::Right, canEdit, {},
-                          hidden};
+    const auto amount = [](const QString& identifier, const QString& title, bool canEdit, bool hidden) {
+        return ViewColumn{identifier, title, CellKind::Amount, CellAlignment::Right, canEdit, {}, hidden};
     };
     const QString taxName = tax() == Tax::GST ? localized("TAX") : localized("VAT");
     return {
@@ -82,13 +81,13 @@ std::vector<ViewColumn> ProductDocumentView::columns() const
          !sharesShipment},
         {u"name"_s, localized("Name")},
         {u"measurement"_s, localized("Unit")},
-        amount(u"amount"_s, "Amount", editable, false),
-        amount(u"packs"_s, "Packs", false, false),
-        amount(u"price"_s, "Price", editable, false),
+        amount(u"amount"_s, localized("Amount"), editable, false),
+        amount(u"packs"_s, localized("Packs"), false, false),
+        amount(u"price"_s, localized("Price"), editable, false),
         {u"vatPercent"_s, taxName + u" %"_s, CellKind::Percent, CellAlignment::Right, false, {}, untaxed},
         {u"vat"_s, taxName, CellKind::Amount, CellAlignment::Right, false, {}, untaxed},
-        amount(u"totalNet"_s, "Net Total", false, untaxed),
-        amount(u"total"_s, "Total", false, false),
+        amount(u"totalNet"_s, localized("Net Total"), false, untaxed),
+        amount(u"total"_s, localized("Total"), false, false),
     };
 }
 

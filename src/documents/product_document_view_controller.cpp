@@ -392,12 +392,12 @@ bool ProductDocumentViewController::hasStorableNumbers()
     const Decimal sums[] = {shipment.value(), contragentDiscount.value(), balanceDue.value(),
                             totalAmount.value(), totalSum.value()};
     if (!std::ranges::all_of(sums, isStorable))
-        fail("A sum of the document is missing or too large.\n");
+        fail(localized("A sum of the document is missing or too large.\n"));
     const Decimal& days = deferment.value();
     if (!(days >= Decimal(0) && days <= Decimal(longestDeferment)))
-        fail("The deferment must lie between 0 and 36500 days.\n");
+        fail(localized("The deferment must lie between 0 and 36500 days.\n"));
     if (document->date < -furthestDate || document->date > furthestDate)
-        fail("The date is out of range.\n");
+        fail(localized("The date is out of range.\n"));
     if (alertMessage.isEmpty())
         return true;
     showAlert();
@@ -419,7 +419,7 @@ bool ProductDocumentViewController::checkStoredRows()
     const auto known = std::ranges::count_if(rows, [](const auto& row) { return row->id != 0; });
     if (std::ssize(stored) == known && std::ranges::all_of(stored, isHeld))
         return true;
-    fail("The document's rows were changed in the meantime. Please open it again.\n");
+    fail(localized("The document's rows were changed in the meantime. Please open it again.\n"));
     return false;
 }
 

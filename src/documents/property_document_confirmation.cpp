@@ -49,7 +49,7 @@ bool PropertyDocumentViewController::confirmDoc()
     } else {
         finalizeDocument();
         if (!storeProperty(write) || !storeDocument(write))
-            fail("Can't confirm document.\n");
+            fail(localized("Can't confirm document.\n"));
     }
     const bool refused = write.failed();
     const bool confirmed = write.finish([this] {
@@ -76,8 +76,8 @@ bool PropertyDocumentViewController::readAnew()
     if (contragentEnabled()) {
         const auto contragent = connector.select<Contragent>(document->contragentID, Fill::Nothing);
         if (!contragent) {
-            fail("Failed to change contragent's balance.\n");
-            fail("Can't confirm document.\n");
+            fail(localized("Failed to change contragent's balance.\n"));
+            fail(localized("Can't confirm document.\n"));
             return false;
         }
         document->insertContragent(contragent);
@@ -96,8 +96,8 @@ bool PropertyDocumentViewController::readProperty()
     }
     const auto property = connector.select<Property>(document->propertyID, Fill::Nothing);
     if (!property || property->soldDate != 0) {
-        fail("The fixed asset is sold or written off already.\n");
-        fail("Can't confirm document.\n");
+        fail(localized("The fixed asset is sold or written off already.\n"));
+        fail(localized("Can't confirm document.\n"));
         return false;
     }
     document->insertProperty(property);
@@ -147,8 +147,8 @@ bool PropertyDocumentViewController::changeContragentBalance()
     setLeftToPay(balance);
     if (appDelegate.connector.update(contragent) == 1)
         return true;
-    fail("Failed to change contragent's balance.\n");
-    fail("Can't confirm document.\n");
+    fail(localized("Failed to change contragent's balance.\n"));
+    fail(localized("Can't confirm document.\n"));
     return false;
 }
 
