@@ -17,9 +17,10 @@ ContragentViewController::ContragentViewController(AppDelegate& owner) : TreeCat
     });
     contragentBalance.onUserChange = [this] { fillNumber(contragentBalance); };
     contragentBalanceOpenButton.onUserChange = [this] { openCloseContragentBalance(); };
-    contragentDeferment.setEnabled(false);
-    contragentDefermentSlider.onUserChange = [this] {
-        contragentDeferment.setValue(contragentDefermentSlider.value());
+    contragentDefermentSlider.onUserChange = [this] { showDeferment(); };
+    contragentDeferment.onUserChange = [this] {
+        contragentDefermentSlider.setValue(contragentDeferment.integer());
+        showDeferment();
     };
 
     observe(NotificationName::ManagerChangedNotification,

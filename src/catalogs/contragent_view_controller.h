@@ -37,7 +37,8 @@ public:
     NumberField contragentDiscount{u"contragentDiscount"_s};
     NumberField contragentBalance{u"contragentBalance"_s};
     Button contragentBalanceOpenButton{u"contragentBalanceOpenButton"_s};
-    NumberField contragentDeferment{u"contragentDeferment"_s}; // shows where the slider stands
+    // Shows where the slider stands; what is typed moves the slider, within its bounds.
+    NumberField contragentDeferment{u"contragentDeferment"_s};
     Slider contragentDefermentSlider{u"contragentDefermentSlider"_s};
     TextField contragentAddress{u"contragentAddress"_s};
     TextField contragentCity{u"contragentCity"_s};
@@ -110,6 +111,7 @@ protected:
 
 private:
     void renewManagers();
+    void showDeferment() { contragentDeferment.setValue(contragentDefermentSlider.value()); }
 
     bool m_managersStale = false;
 };

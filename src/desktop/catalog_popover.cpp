@@ -103,8 +103,9 @@ QRect CatalogPopover::anchor()
         m_asker = focused;
     if (m_asker && isInAPopover(m_asker))
         return globalRect(m_asker);
-    if (m_rowAnchor)
-        return m_rowAnchor();
+    const QRect row = m_rowAnchor ? m_rowAnchor() : QRect();
+    if (!row.isNull())
+        return row;
     return m_asker ? globalRect(m_asker) : m_host ? globalRect(m_host) : QRect();
 }
 
@@ -277,7 +278,8 @@ void CatalogPopover::keepTabOrder(QLineEdit* first)
 {
     QWidget* last = first;
     for (QWidget* const field : m_form->findChildren<QWidget*>()) {
-        if (field == first || field->focusProxy() || !(field->focusPolicy() & Qt::TabFocus))
+        if (field == first || field->window() != window() || field->focusProxy() ||
+            !(field->focusPolicy() & Qt::TabFocus))
             continue;
         setTabOrder(last, field);
         last = field;

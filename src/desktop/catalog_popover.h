@@ -19,7 +19,7 @@ class CatalogPopover : public PopoverPanel {
 public:
     ~CatalogPopover() override;
 
-    // The row being edited, or the button that adds; in global coordinates.
+    // The row being edited, or the button that adds; in global coordinates, null when neither can be seen.
     void setRowAnchor(std::function<QRect()> anchor) { m_rowAnchor = std::move(anchor); }
 
 protected:

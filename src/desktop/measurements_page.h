@@ -1,20 +1,17 @@
 #pragma once
 
-#include "desktop/list_page.h"
+#include "desktop/list_catalog_page.h"
 
 namespace zelvor {
 
 class MeasurementViewController;
 
 // The units catalog with its popover.
-class MeasurementsPage : public TablePage {
+class MeasurementsPage : public ListCatalogPage {
     Q_OBJECT
 
 public:
     explicit MeasurementsPage(MeasurementViewController& controller, QWidget* parent = nullptr);
-
-private:
-    MeasurementViewController& m_controller;
 };
 
 } // namespace zelvor

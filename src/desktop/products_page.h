@@ -1,20 +1,17 @@
 #pragma once
 
-#include "desktop/list_page.h"
+#include "desktop/tree_catalog_page.h"
 
 namespace zelvor {
 
 class ProductViewController;
 
 // The products catalog with its popovers.
-class ProductsPage : public TreePage {
+class ProductsPage : public TreeCatalogPage {
     Q_OBJECT
 
 public:
     explicit ProductsPage(ProductViewController& controller, QWidget* parent = nullptr);
-
-private:
-    ProductViewController& m_controller;
 };
 
 } // namespace zelvor

@@ -1,20 +1,17 @@
 #pragma once
 
-#include "desktop/list_page.h"
+#include "desktop/list_catalog_page.h"
 
 namespace zelvor {
 
 class StockViewController;
 
 // The warehouses catalog with its popover.
-class StocksPage : public TablePage {
+class StocksPage : public ListCatalogPage {
     Q_OBJECT
 
 public:
     explicit StocksPage(StockViewController& controller, QWidget* parent = nullptr);
-
-private:
-    StockViewController& m_controller;
 };
 
 } // namespace zelvor
