@@ -43,6 +43,8 @@ public:
     void backUpdateSelections();
     // Ticks every record; the list stays.
     void selectAll();
+    // The user ticks everything or nothing at once; either way the filter is empty.
+    void tickAll(bool on);
     // OK: hands the list to an owner that takes it, and closes.
     void sendIDs();
     void cancelPopover() { selectPopover.close(); }
@@ -111,6 +113,15 @@ void ListSelectView<Record>::selectAll()
 {
     for (const auto& row : records())
         row->selected = true;
+}
+
+template <class Record>
+void ListSelectView<Record>::tickAll(bool on)
+{
+    for (const auto& row : records())
+        row->selected = on;
+    selectedIDs().clear();
+    reloadData();
 }
 
 template <class Record>

@@ -46,6 +46,8 @@ public:
     void backUpdateSelections();
     // Ticks every node; the lists stay.
     void selectAll();
+    // The user ticks everything or nothing at once; either way the filter is empty.
+    void tickAll(bool on);
     // OK: hands the lists to an owner that takes them, and closes.
     void sendIDs();
     void cancelPopover() { selectPopover.close(); }
@@ -178,6 +180,16 @@ void TreeSelectView<Model, Group, Leaf>::selectAll()
 {
     for (const auto& node : all())
         node->selected = true;
+}
+
+template <class Model, class Group, class Leaf>
+void TreeSelectView<Model, Group, Leaf>::tickAll(bool on)
+{
+    for (const auto& node : all())
+        node->selected = on;
+    groupIDs().clear();
+    leafIDs().clear();
+    this->reloadData();
 }
 
 template <class Model, class Group, class Leaf>

@@ -75,8 +75,10 @@ void DocumentJournalView::sort(const QString& key, bool ascending)
 {
     m_controller.readIfStale();
     const auto sortBy = [this, ascending](auto less) {
+        const std::shared_ptr<DocumentModel> selected = documentAt(selectedRow());
         std::ranges::stable_sort(
             documents, [&](const auto& a, const auto& b) { return ascending ? less(*a, *b) : less(*b, *a); });
+        selectDocument(selected.get());
         reloadData();
     };
     using Document = DocumentModel;
@@ -90,6 +92,14 @@ void DocumentJournalView::sort(const QString& key, bool ascending)
         sortBy([](const Document& a, const Document& b) {
             return textLess(a.contragent->name, b.contragent->name);
         });
+}
+
+void DocumentJournalView::selectDocument(const DocumentModel* document)
+{
+    const auto place = std::ranges::find_if(documents, [document](const auto& shown) {
+        return document && shown->id == document->id && shown->docTypeID == document->docTypeID;
+    });
+    selectRow(place == documents.end() ? -1 : static_cast<int>(place - documents.begin()));
 }
 
 void DocumentJournalView::doubleAction(int row)

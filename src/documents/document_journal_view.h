@@ -29,6 +29,8 @@ public:
     void doubleAction(int row) override;
     // None outside the rows.
     std::shared_ptr<DocumentModel> documentAt(int row) const;
+    // Selects the row of the same document as it was read last; none when it is not shown.
+    void selectDocument(const DocumentModel* document);
 
 private:
     QString journalName(const DocumentModel& document) const;

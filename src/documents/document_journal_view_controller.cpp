@@ -138,10 +138,12 @@ void DocumentJournalViewController::prepareJournal()
     m_stale = false;
     docToDelete.reset();
     deleteDocumentMenuItem.setEnabled(false);
-    mainView.documents.clear();
-    mainView.selectRow(-1);
+    const int row = mainView.selectedRow();
+    const auto before = std::exchange(mainView.documents, {});
     readSelected();
     std::ranges::stable_sort(mainView.documents, isEarlier);
+    const bool hadSelection = row >= 0 && static_cast<std::size_t>(row) < before.size();
+    mainView.selectDocument(hadSelection ? before[static_cast<std::size_t>(row)].get() : nullptr);
     mainView.setName(getNameForTabView());
     mainView.reloadData();
     progress.stop();

@@ -3,6 +3,8 @@
 #include "core/localized.h"
 #include "period/balance_view_controller.h"
 
+#include <algorithm>
+
 namespace zelvor {
 
 using namespace Qt::Literals::StringLiterals;
@@ -21,7 +23,11 @@ const std::vector<std::shared_ptr<BalanceRow>>& BalanceView::rows() const
 
 void BalanceView::setRows(std::vector<std::shared_ptr<BalanceRow>> rows)
 {
+    const bool hadSelection = selectedRow() >= 0 && selectedRow() < static_cast<int>(m_rows.size());
+    const auto selected = hadSelection ? m_rows[static_cast<std::size_t>(selectedRow())] : nullptr;
     m_rows = std::move(rows);
+    const auto place = selected ? std::ranges::find(m_rows, selected) : m_rows.end();
+    selectRow(place == m_rows.end() ? -1 : static_cast<int>(place - m_rows.begin()));
     reloadData();
 }
 

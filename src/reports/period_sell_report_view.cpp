@@ -38,6 +38,8 @@ void PeriodSellReportView::setRows(PeriodSellReportRows rows)
     m_grandTotal.subject = &m_grandTotalSubject;
     m_grandTotal.type = SellRowType::Total;
     m_collapsedRows.clear();
+    m_reportRows.clear();
+    selectRow(-1);
     placeRows();
     m_collapsedRows.push_back(&m_grandTotal);
     showRows(true);
@@ -103,9 +105,12 @@ void PeriodSellReportView::clearRows()
 
 void PeriodSellReportView::showRows(bool calculateTotals)
 {
+    const PeriodSellReportRow* const selected = rowAt(selectedRow());
     m_reportRows.clear();
     openRows(m_collapsedRows, calculateTotals);
     clearRows();
+    const auto place = std::ranges::find(m_reportRows, selected);
+    selectRow(place == m_reportRows.end() ? -1 : static_cast<int>(place - m_reportRows.begin()));
     reloadData();
 }
 

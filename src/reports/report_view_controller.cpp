@@ -7,6 +7,8 @@ namespace zelvor {
 
 ReportViewController::ReportViewController(AppDelegate& owner) : ModelViewController(owner)
 {
+    dateFromLabel.setText(localized("From"));
+    dateToLabel.setText(localized("To"));
     dateFrom.onUserChange = [this] { checkDates(); };
     dateTo.onUserChange = [this] { checkDates(); };
     setCurrentDate();
