@@ -33,7 +33,7 @@ PLACEHOLDER = re.compile(r"%(?:L?\d+|n)")
 
 # localized() with something else than a literal is right where the text is marked elsewhere: in a table beside the
 # call, or as a name of the menu.
-NAMES = {"const char* english", "menuTitle"}
+NAMES = {"const char* english", "entry.name.toUtf8"}
 
 
 def without_comments(code):

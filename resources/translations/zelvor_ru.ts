@@ -5,1466 +5,1741 @@
     <name>Zelvor</name>
     <message>
         <source> (read)</source>
-        <translation type="unfinished"></translation>
+        <translation> (чтение)</translation>
     </message>
     <message>
         <source> (read-only)</source>
-        <translation type="unfinished"></translation>
+        <translation> (только чтение)</translation>
     </message>
     <message>
         <source> (write)</source>
-        <translation type="unfinished"></translation>
+        <translation> (правка)</translation>
     </message>
     <message>
         <source> From: </source>
-        <translation type="unfinished"></translation>
+        <translation> С: </translation>
     </message>
     <message>
         <source> Have: </source>
-        <translation type="unfinished"></translation>
+        <translation> Есть: </translation>
     </message>
     <message>
         <source> Reserv: </source>
-        <translation type="unfinished"></translation>
+        <translation> Резерв: </translation>
     </message>
     <message>
         <source> To: </source>
-        <translation type="unfinished"></translation>
+        <translation> По: </translation>
     </message>
     <message>
         <source> is not found at specified path. Do you wish to delete useless line?</source>
-        <translation type="unfinished"></translation>
+        <translation> не найден по указанному пути. Удалить ненужную строку?</translation>
     </message>
     <message>
         <source>'
 </source>
-        <translation type="unfinished"></translation>
+        <translation>»
+</translation>
     </message>
     <message>
         <source>' on WH: '</source>
-        <translation type="unfinished"></translation>
+        <translation>» на складе «</translation>
     </message>
     <message>
         <source>'. Need: </source>
-        <translation type="unfinished"></translation>
+        <translation>». Нужно: </translation>
     </message>
     <message>
         <source>(Fixed Asset) </source>
-        <translation type="unfinished"></translation>
+        <translation>(ОС) </translation>
     </message>
     <message>
         <source>(Money) </source>
-        <translation type="unfinished"></translation>
+        <translation>(Деньги) </translation>
     </message>
     <message>
         <source>(Product) </source>
-        <translation type="unfinished"></translation>
+        <translation>(Товары) </translation>
     </message>
     <message>
         <source>A fixed asset is added by a document!</source>
-        <translation type="unfinished"></translation>
+        <translation>Основное средство добавляют документом!</translation>
     </message>
     <message>
         <source>A number is missing or too large: </source>
-        <translation type="unfinished"></translation>
+        <translation>Число не указано или слишком велико: </translation>
     </message>
     <message>
         <source>A record cannot be the default and hidden at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Запись не может быть сразу и основной, и скрытой.</translation>
+    </message>
+    <message>
+        <source>A service: it is sold, but never lies in a warehouse.</source>
+        <translation>Услуга: её продают, но на складе она не лежит.</translation>
     </message>
     <message>
         <source>A sum of the document is missing or too large.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Сумма документа не указана или слишком велика.
+</translation>
     </message>
     <message>
         <source>A tax rate must not be below 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ставка налога не может быть меньше 0.</translation>
     </message>
     <message>
         <source>Account From</source>
-        <translation type="unfinished"></translation>
+        <translation>Со счёта</translation>
     </message>
     <message>
         <source>Account Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Отчёт по счёту</translation>
     </message>
     <message>
         <source>Account To</source>
-        <translation type="unfinished"></translation>
+        <translation>На счёт</translation>
     </message>
     <message>
         <source>Account Types</source>
-        <translation type="unfinished"></translation>
+        <translation>Виды счетов</translation>
     </message>
     <message>
         <source>Account Types Catalog</source>
-        <translation type="unfinished"></translation>
+        <translation>Справочник видов счетов</translation>
     </message>
     <message>
         <source>Accounts</source>
-        <translation type="unfinished"></translation>
+        <translation>Счета</translation>
     </message>
     <message>
         <source>Accounts List</source>
-        <translation type="unfinished"></translation>
+        <translation>Список счетов</translation>
     </message>
     <message>
         <source>Add Account Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить вид счёта</translation>
     </message>
     <message>
         <source>Add Function</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить должность</translation>
     </message>
     <message>
         <source>Add New Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый счёт</translation>
     </message>
     <message>
         <source>Add New Basis For Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Новая причина списания</translation>
     </message>
     <message>
         <source>Add New Counterparties Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Новая группа контрагентов</translation>
     </message>
     <message>
         <source>Add New Counterparty</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый контрагент</translation>
     </message>
     <message>
         <source>Add New Emplyee</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый сотрудник</translation>
     </message>
     <message>
         <source>Add New Product</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый товар</translation>
     </message>
     <message>
         <source>Add New Product Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Новая группа товаров</translation>
     </message>
     <message>
         <source>Add New Spending</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый расход</translation>
     </message>
     <message>
         <source>Add New Spending Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый вид расходов</translation>
     </message>
     <message>
         <source>Add New Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Новая единица измерения</translation>
     </message>
     <message>
         <source>Add New Warehouse</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый склад</translation>
     </message>
     <message>
         <source>Add Spending</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить расход</translation>
     </message>
     <message>
         <source>Add Spending Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить вид расходов</translation>
+    </message>
+    <message>
+        <source>Add a Function</source>
+        <translation>Добавить должность</translation>
+    </message>
+    <message>
+        <source>Add a Group</source>
+        <translation>Добавить группу</translation>
+    </message>
+    <message>
+        <source>Add a Pack</source>
+        <translation>Добавить упаковку</translation>
+    </message>
+    <message>
+        <source>Add a Unit</source>
+        <translation>Добавить единицу</translation>
+    </message>
+    <message>
+        <source>Add an Employee</source>
+        <translation>Добавить сотрудника</translation>
     </message>
     <message>
         <source>Addition of Fixed Asset</source>
-        <translation type="unfinished"></translation>
+        <translation>Оприходование ОС</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Адрес</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Все</translation>
     </message>
     <message>
         <source>All Counterparties</source>
-        <translation type="unfinished"></translation>
+        <translation>Все контрагенты</translation>
     </message>
     <message>
         <source>All Documents</source>
-        <translation type="unfinished"></translation>
+        <translation>Все документы</translation>
     </message>
     <message>
         <source>All Documents From: </source>
-        <translation type="unfinished"></translation>
+        <translation>Все документы с: </translation>
     </message>
     <message>
         <source>All Documents Journal</source>
-        <translation type="unfinished"></translation>
+        <translation>Журнал всех документов</translation>
     </message>
     <message>
         <source>All Intangibles</source>
-        <translation type="unfinished"></translation>
+        <translation>Все услуги</translation>
     </message>
     <message>
         <source>All Products on '</source>
-        <translation type="unfinished"></translation>
+        <translation>Все товары на складе '</translation>
     </message>
     <message>
         <source>All Spendings</source>
-        <translation type="unfinished"></translation>
+        <translation>Все расходы</translation>
     </message>
     <message>
         <source>All currencies are up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>Курсы всех валют актуальны</translation>
     </message>
     <message>
         <source>Amortized</source>
-        <translation type="unfinished"></translation>
+        <translation>Амортизация</translation>
     </message>
     <message>
         <source>Amount</source>
-        <translation type="unfinished"></translation>
+        <translation>Кол-во</translation>
     </message>
     <message>
         <source>Asset Added</source>
-        <translation type="unfinished"></translation>
+        <translation>Оприходование ОС</translation>
     </message>
     <message>
         <source>Asset Purchase</source>
-        <translation type="unfinished"></translation>
+        <translation>Покупка ОС</translation>
     </message>
     <message>
         <source>Asset Sale</source>
-        <translation type="unfinished"></translation>
+        <translation>Продажа ОС</translation>
     </message>
     <message>
         <source>Asset Write-Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Списание ОС</translation>
     </message>
     <message>
         <source>BALANCE:</source>
-        <translation type="unfinished"></translation>
+        <translation>БАЛАНС:</translation>
     </message>
     <message>
         <source>Balance</source>
-        <translation type="unfinished"></translation>
+        <translation>Баланс</translation>
     </message>
     <message>
         <source>Balance Due</source>
-        <translation type="unfinished"></translation>
+        <translation>К оплате</translation>
     </message>
     <message>
         <source>Balance Sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Баланс</translation>
     </message>
     <message>
         <source>Base Cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Себестоимость</translation>
     </message>
     <message>
         <source>Base Sum</source>
-        <translation type="unfinished"></translation>
+        <translation>По себестоимости</translation>
     </message>
     <message>
         <source>Basis For Delete List</source>
-        <translation type="unfinished"></translation>
+        <translation>Список причин списания</translation>
+    </message>
+    <message>
+        <source>Belongs to</source>
+        <translation>Входит в</translation>
     </message>
     <message>
         <source>British Pound</source>
-        <translation type="unfinished"></translation>
+        <translation>Британский фунт</translation>
     </message>
     <message>
         <source>Busy</source>
-        <translation type="unfinished"></translation>
+        <translation>Подождите</translation>
     </message>
     <message>
         <source>Can't check last report period!
  Can't confirm document!
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось проверить последний отчётный период!
+ Документ не проведён!
+</translation>
     </message>
     <message>
         <source>Can't confirm document with date from future!
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Нельзя провести документ с датой из будущего!
+</translation>
     </message>
     <message>
         <source>Can't confirm document.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Документ не проведён.
+</translation>
     </message>
     <message>
         <source>Can't confirm document: already have document with later date!
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Документ не проведён: уже есть документ с более поздней датой!
+</translation>
     </message>
     <message>
         <source>Can't find project file!</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл проекта не найден!</translation>
     </message>
     <message>
         <source>Can't get serial number for document.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось получить номер документа.
+</translation>
     </message>
     <message>
         <source>Can't open project file!</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось открыть файл проекта!</translation>
     </message>
     <message>
         <source>Canadian Dollar</source>
-        <translation type="unfinished"></translation>
+        <translation>Канадский доллар</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>Cannot open %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось открыть %1: %2</translation>
     </message>
     <message>
         <source>Cannot write %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось записать %1: %2</translation>
     </message>
     <message>
         <source>Cash</source>
-        <translation type="unfinished"></translation>
+        <translation>Деньги</translation>
     </message>
     <message>
         <source>Catalogs</source>
-        <translation type="unfinished"></translation>
+        <translation>Справочники</translation>
     </message>
     <message>
         <source>Chinese Yuan</source>
-        <translation type="unfinished"></translation>
+        <translation>Китайский юань</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Город</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрыть</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Код</translation>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Комментарий</translation>
     </message>
     <message>
         <source>Confirmed</source>
-        <translation type="unfinished"></translation>
+        <translation>Проведён</translation>
     </message>
     <message>
         <source>Constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Постоянный</translation>
+    </message>
+    <message>
+        <source>Contact</source>
+        <translation>Контакт</translation>
+    </message>
+    <message>
+        <source>Contact Person</source>
+        <translation>Контактное лицо</translation>
     </message>
     <message>
         <source>Context</source>
-        <translation type="unfinished"></translation>
+        <translation>Действия</translation>
     </message>
     <message>
         <source>Correction</source>
-        <translation type="unfinished"></translation>
+        <translation>Корректировка</translation>
     </message>
     <message>
         <source>Cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Стоимость</translation>
     </message>
     <message>
         <source>Counterparties</source>
-        <translation type="unfinished"></translation>
+        <translation>Контрагенты</translation>
     </message>
     <message>
         <source>Counterparties Catalog</source>
-        <translation type="unfinished"></translation>
+        <translation>Справочник контрагентов</translation>
     </message>
     <message>
         <source>Counterparties Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Отчёт по контрагентам</translation>
     </message>
     <message>
         <source>Counterparty</source>
-        <translation type="unfinished"></translation>
+        <translation>Контрагент</translation>
+    </message>
+    <message>
+        <source>Counterparty Address</source>
+        <translation>Адрес контрагента</translation>
+    </message>
+    <message>
+        <source>Counterparty Balance</source>
+        <translation>Баланс контрагента</translation>
+    </message>
+    <message>
+        <source>Counterparty City</source>
+        <translation>Город контрагента</translation>
+    </message>
+    <message>
+        <source>Counterparty Comment</source>
+        <translation>Комментарий к контрагенту</translation>
+    </message>
+    <message>
+        <source>Counterparty Discount</source>
+        <translation>Скидка контрагента</translation>
+    </message>
+    <message>
+        <source>Counterparty E-mail</source>
+        <translation>Эл. почта контрагента</translation>
+    </message>
+    <message>
+        <source>Counterparty Group</source>
+        <translation>Группа контрагентов</translation>
+    </message>
+    <message>
+        <source>Counterparty Manager</source>
+        <translation>Менеджер контрагента</translation>
+    </message>
+    <message>
+        <source>Counterparty Name</source>
+        <translation>Наименование контрагента</translation>
+    </message>
+    <message>
+        <source>Counterparty Phone</source>
+        <translation>Телефон контрагента</translation>
     </message>
     <message>
         <source>Counterparty Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Отчёт по контрагенту</translation>
+    </message>
+    <message>
+        <source>Counterparty VAT Number</source>
+        <translation>ИНН контрагента</translation>
     </message>
     <message>
         <source>Create</source>
-        <translation type="unfinished"></translation>
+        <translation>Создать</translation>
     </message>
     <message>
         <source>Creating new Business</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый проект</translation>
     </message>
     <message>
         <source>Credit</source>
-        <translation type="unfinished"></translation>
+        <translation>Кредит</translation>
     </message>
     <message>
         <source>Currencies</source>
-        <translation type="unfinished"></translation>
+        <translation>Валюты</translation>
     </message>
     <message>
         <source>Currencies Catalog</source>
-        <translation type="unfinished"></translation>
+        <translation>Справочник валют</translation>
     </message>
     <message>
         <source>Currency</source>
-        <translation type="unfinished"></translation>
+        <translation>Валюта</translation>
     </message>
     <message>
         <source>Current Cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Остаточная стоимость</translation>
     </message>
     <message>
         <source>Customers</source>
-        <translation type="unfinished"></translation>
+        <translation>Покупатели</translation>
     </message>
     <message>
         <source>Customers / Suppliers</source>
-        <translation type="unfinished"></translation>
+        <translation>Покупатели и поставщики</translation>
     </message>
     <message>
         <source>Czech Koruna</source>
-        <translation type="unfinished"></translation>
+        <translation>Чешская крона</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Дата</translation>
+    </message>
+    <message>
+        <source>Days of Deferred Payment</source>
+        <translation>Дней отсрочки</translation>
     </message>
     <message>
         <source>Debit</source>
-        <translation type="unfinished"></translation>
+        <translation>Дебет</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Основной</translation>
     </message>
     <message>
         <source>Default currency doesn't set</source>
-        <translation type="unfinished"></translation>
+        <translation>Основная валюта не выбрана</translation>
     </message>
     <message>
         <source>Deferment</source>
-        <translation type="unfinished"></translation>
+        <translation>Отсрочка</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Описание</translation>
+    </message>
+    <message>
+        <source>Discount, %</source>
+        <translation>Скидка, %</translation>
     </message>
     <message>
         <source>Do you want to save the changes to the document?</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить изменения в документе?</translation>
     </message>
     <message>
         <source>Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Документ</translation>
     </message>
     <message>
         <source>Documents Journal</source>
-        <translation type="unfinished"></translation>
+        <translation>Журнал документов</translation>
     </message>
     <message>
         <source>Don't Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Не сохранять</translation>
     </message>
     <message>
         <source>Dynamics</source>
-        <translation type="unfinished"></translation>
+        <translation>Динамика</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>Эл. почта</translation>
     </message>
     <message>
         <source>Edit Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Правка счёта</translation>
     </message>
     <message>
         <source>Edit Account Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Правка вида счёта</translation>
     </message>
     <message>
         <source>Edit Basis For Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Правка причины списания</translation>
     </message>
     <message>
         <source>Edit Contragent</source>
-        <translation type="unfinished"></translation>
+        <translation>Правка контрагента</translation>
     </message>
     <message>
         <source>Edit Contragent Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Правка группы контрагентов</translation>
     </message>
     <message>
         <source>Edit Employee</source>
-        <translation type="unfinished"></translation>
+        <translation>Правка сотрудника</translation>
     </message>
     <message>
         <source>Edit Expend</source>
-        <translation type="unfinished"></translation>
+        <translation>Правка расхода</translation>
     </message>
     <message>
         <source>Edit Expend Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Правка вида расходов</translation>
     </message>
     <message>
         <source>Edit Function</source>
-        <translation type="unfinished"></translation>
+        <translation>Правка должности</translation>
     </message>
     <message>
         <source>Edit Product</source>
-        <translation type="unfinished"></translation>
+        <translation>Правка товара</translation>
     </message>
     <message>
         <source>Edit Product Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Правка группы товаров</translation>
     </message>
     <message>
         <source>Edit Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Правка единицы измерения</translation>
     </message>
     <message>
         <source>Edit Warehouse</source>
-        <translation type="unfinished"></translation>
+        <translation>Правка склада</translation>
     </message>
     <message>
         <source>Employee</source>
-        <translation type="unfinished"></translation>
+        <translation>Сотрудник</translation>
+    </message>
+    <message>
+        <source>Employee Balance</source>
+        <translation>Баланс сотрудника</translation>
+    </message>
+    <message>
+        <source>Employee Function</source>
+        <translation>Должность сотрудника</translation>
     </message>
     <message>
         <source>Employee Functions</source>
-        <translation type="unfinished"></translation>
+        <translation>Должности</translation>
+    </message>
+    <message>
+        <source>Employee Name</source>
+        <translation>Имя сотрудника</translation>
     </message>
     <message>
         <source>Employee Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Отчёт по сотруднику</translation>
     </message>
     <message>
         <source>Employees</source>
-        <translation type="unfinished"></translation>
+        <translation>Сотрудники</translation>
     </message>
     <message>
         <source>Employeies List</source>
-        <translation type="unfinished"></translation>
+        <translation>Список сотрудников</translation>
     </message>
     <message>
         <source>Enable contragent balance</source>
-        <translation type="unfinished"></translation>
+        <translation>Правка баланса контрагента</translation>
     </message>
     <message>
         <source>Enable employee balance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Правка баланса сотрудника.</translation>
     </message>
     <message>
         <source>Enable product base cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Правка себестоимости товара</translation>
     </message>
     <message>
         <source>Euro</source>
-        <translation type="unfinished"></translation>
+        <translation>Евро</translation>
     </message>
     <message>
         <source>Failed to add doc sum to account balance.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось прибавить сумму документа к остатку счёта.
+</translation>
     </message>
     <message>
         <source>Failed to add products to WH.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось оприходовать товары на склад.
+</translation>
     </message>
     <message>
         <source>Failed to change contragent's balance.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось изменить баланс контрагента.
+</translation>
     </message>
     <message>
         <source>Failed to change product's base cost
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось изменить себестоимость товара
+</translation>
     </message>
     <message>
         <source>Failed to check account balance.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось проверить остаток счёта.
+</translation>
     </message>
     <message>
         <source>Failed to close month</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось закрыть месяц</translation>
     </message>
     <message>
         <source>Failed to delete products from WH.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось списать товары со склада.
+</translation>
     </message>
     <message>
         <source>Failed to subtract doc sum from account balance.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось вычесть сумму документа из остатка счёта.
+</translation>
     </message>
     <message>
         <source>Failed to update contragent balance.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось обновить баланс контрагента.
+</translation>
     </message>
     <message>
         <source>Failed to update employee balance.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось обновить баланс сотрудника.
+</translation>
     </message>
     <message>
         <source>Field 'Name' is required!</source>
-        <translation type="unfinished"></translation>
+        <translation>Заполните поле «Наименование»!</translation>
     </message>
     <message>
         <source>Fixed Asset</source>
-        <translation type="unfinished"></translation>
+        <translation>Основное средство</translation>
     </message>
     <message>
         <source>Fixed Asset Journal</source>
-        <translation type="unfinished"></translation>
+        <translation>Журнал основных средств</translation>
     </message>
     <message>
         <source>Fixed Assets</source>
-        <translation type="unfinished"></translation>
+        <translation>Основные средства</translation>
     </message>
     <message>
         <source>Fixed Assets List</source>
-        <translation type="unfinished"></translation>
+        <translation>Список основных средств</translation>
     </message>
     <message>
         <source>Flag</source>
-        <translation type="unfinished"></translation>
+        <translation>Флаг</translation>
     </message>
     <message>
         <source>For unknown reasons we can not close month. Please try later.</source>
-        <translation type="unfinished"></translation>
+        <translation>По неизвестной причине месяц закрыть не удалось. Попробуйте позже.</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>С</translation>
     </message>
     <message>
         <source>From Warehouse</source>
-        <translation type="unfinished"></translation>
+        <translation>Со склада</translation>
     </message>
     <message>
         <source>Function</source>
-        <translation type="unfinished"></translation>
+        <translation>Должность</translation>
+    </message>
+    <message>
+        <source>Function Name</source>
+        <translation>Название должности</translation>
+    </message>
+    <message>
+        <source>Function Salary</source>
+        <translation>Оклад по должности</translation>
     </message>
     <message>
         <source>Functions</source>
-        <translation type="unfinished"></translation>
+        <translation>Должности</translation>
     </message>
     <message>
         <source>Functions Catalog</source>
-        <translation type="unfinished"></translation>
+        <translation>Справочник должностей</translation>
+    </message>
+    <message>
+        <source>GST, %</source>
+        <translation>GST, %</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Группа</translation>
+    </message>
+    <message>
+        <source>Group Description</source>
+        <translation>Описание группы</translation>
+    </message>
+    <message>
+        <source>Group Name</source>
+        <translation>Наименование группы</translation>
     </message>
     <message>
         <source>Have not enough money on account '</source>
-        <translation type="unfinished"></translation>
+        <translation>Не хватает денег на счёте «</translation>
     </message>
     <message>
         <source>Hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Скрыт</translation>
     </message>
     <message>
         <source>Intangible</source>
-        <translation type="unfinished"></translation>
+        <translation>Услуга</translation>
     </message>
     <message>
         <source>It can be opened for reading. Nothing can be changed then.</source>
-        <translation type="unfinished"></translation>
+        <translation>Его можно открыть для чтения, но изменить тогда ничего нельзя.</translation>
     </message>
     <message>
         <source>Japanese Yen</source>
-        <translation type="unfinished"></translation>
+        <translation>Японская иена</translation>
     </message>
     <message>
         <source>Last month doesn't closed. Would you like to close it now?
 IMPORTANT! After this procedure you can not confirm any document with date from last month!</source>
-        <translation type="unfinished"></translation>
+        <translation>Прошлый месяц не закрыт. Закрыть его сейчас?
+ВАЖНО! После этого нельзя будет провести ни один документ с датой прошлого месяца!</translation>
     </message>
     <message>
         <source>Last report period must be closed before we can proceed document with date from later period. But we can't close it now for unknown reason!
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Прежде чем проводить документ с датой следующего периода, нужно закрыть прошлый отчётный период. Но по неизвестной причине закрыть его сейчас не удалось!
+</translation>
     </message>
     <message>
         <source>Last report period must be closed before we can proceed document with date from later period. But we can't now close it for unknown reason!
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Прежде чем проводить документ с датой следующего периода, нужно закрыть прошлый отчётный период. Но по неизвестной причине закрыть его сейчас не удалось!
+</translation>
+    </message>
+    <message>
+        <source>Lock of the Balance</source>
+        <translation>Замок баланса</translation>
+    </message>
+    <message>
+        <source>Lock of the Base Cost</source>
+        <translation>Замок себестоимости</translation>
+    </message>
+    <message>
+        <source>Lock of the Employee Balance</source>
+        <translation>Замок баланса сотрудника</translation>
+    </message>
+    <message>
+        <source>Locked: documents keep this figure. Press to change it by hand.</source>
+        <translation>Закрыто: число ведут документы. Нажмите, чтобы изменить вручную.</translation>
     </message>
     <message>
         <source>Manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Менеджер</translation>
     </message>
     <message>
         <source>Managers</source>
-        <translation type="unfinished"></translation>
+        <translation>Менеджеры</translation>
     </message>
     <message>
         <source>Money</source>
-        <translation type="unfinished"></translation>
+        <translation>Деньги</translation>
     </message>
     <message>
         <source>Money Deposit</source>
-        <translation type="unfinished"></translation>
+        <translation>Внесение денег</translation>
     </message>
     <message>
         <source>Money Document '</source>
-        <translation type="unfinished"></translation>
+        <translation>Денежный документ '</translation>
     </message>
     <message>
         <source>Money Documents From: </source>
-        <translation type="unfinished"></translation>
+        <translation>Денежные документы с: </translation>
     </message>
     <message>
         <source>Money Journal</source>
-        <translation type="unfinished"></translation>
+        <translation>Журнал денежных документов</translation>
     </message>
     <message>
         <source>Money from Employee</source>
-        <translation type="unfinished"></translation>
+        <translation>Получено от сотрудника</translation>
     </message>
     <message>
         <source>Money to Employee</source>
-        <translation type="unfinished"></translation>
+        <translation>Выдано сотруднику</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Наименование</translation>
     </message>
     <message>
         <source>Need to close last month.</source>
-        <translation type="unfinished"></translation>
+        <translation>Нужно закрыть прошлый месяц.</translation>
     </message>
     <message>
         <source>Net Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Без налога</translation>
     </message>
     <message>
         <source>New Account Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый вид счёта</translation>
     </message>
     <message>
         <source>New Function</source>
-        <translation type="unfinished"></translation>
+        <translation>Новая должность</translation>
     </message>
     <message>
         <source>New Item</source>
-        <translation type="unfinished"></translation>
+        <translation>Новая запись</translation>
     </message>
     <message>
         <source>No counterparties yet. Add the first customer or supplier.</source>
-        <translation type="unfinished"></translation>
+        <translation>Контрагентов пока нет. Добавьте первого покупателя или поставщика.</translation>
     </message>
     <message>
         <source>No documents in this period.</source>
-        <translation type="unfinished"></translation>
+        <translation>За этот период документов нет.</translation>
     </message>
     <message>
         <source>No manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Без менеджера</translation>
     </message>
     <message>
         <source>No products yet. Add the first one, or import a list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Товаров пока нет. Добавьте первый или загрузите список.</translation>
     </message>
     <message>
         <source>No rows yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Строк пока нет.</translation>
     </message>
     <message>
         <source>No sales in this period.</source>
-        <translation type="unfinished"></translation>
+        <translation>За этот период продаж нет.</translation>
     </message>
     <message>
         <source>No units yet. Add the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Единиц измерения пока нет. Добавьте первую.</translation>
     </message>
     <message>
         <source>No warehouses yet. Add the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Складов пока нет. Добавьте первый.</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет</translation>
     </message>
     <message>
         <source>Nothing to show yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Показывать пока нечего.</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Номер</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть</translation>
     </message>
     <message>
         <source>Open Existing Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть проект</translation>
     </message>
     <message>
         <source>Open Logo File</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбрать файл логотипа</translation>
     </message>
     <message>
         <source>Open Read-Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть для чтения</translation>
+    </message>
+    <message>
+        <source>Open: the figure can be changed by hand.</source>
+        <translation>Открыто: число можно изменить вручную.</translation>
     </message>
     <message>
         <source>Organization</source>
-        <translation type="unfinished"></translation>
+        <translation>Организация</translation>
     </message>
     <message>
         <source>Pack</source>
-        <translation type="unfinished"></translation>
+        <translation>Упаковка</translation>
     </message>
     <message>
         <source>Pack Amount</source>
-        <translation type="unfinished"></translation>
+        <translation>В упаковке</translation>
     </message>
     <message>
         <source>Packs</source>
-        <translation type="unfinished"></translation>
+        <translation>Упаковок</translation>
     </message>
     <message>
         <source>Parameters for </source>
-        <translation type="unfinished"></translation>
+        <translation>Параметры проекта </translation>
+    </message>
+    <message>
+        <source>Parent Counterparty</source>
+        <translation>Входит в контрагента</translation>
+    </message>
+    <message>
+        <source>Parent Group</source>
+        <translation>Входит в группу</translation>
+    </message>
+    <message>
+        <source>Pay Within, Days</source>
+        <translation>Отсрочка, дней</translation>
     </message>
     <message>
         <source>Payment Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Платёжный календарь</translation>
     </message>
     <message>
         <source>Payment from Counterparty</source>
-        <translation type="unfinished"></translation>
+        <translation>Оплата от контрагента</translation>
     </message>
     <message>
         <source>Payment from Employee</source>
-        <translation type="unfinished"></translation>
+        <translation>Получено от сотрудника</translation>
     </message>
     <message>
         <source>Payment of Spending</source>
-        <translation type="unfinished"></translation>
+        <translation>Оплата расхода</translation>
     </message>
     <message>
         <source>Payment to Counterparty</source>
-        <translation type="unfinished"></translation>
+        <translation>Оплата контрагенту</translation>
     </message>
     <message>
         <source>Payment to Employee</source>
-        <translation type="unfinished"></translation>
+        <translation>Выдано сотруднику</translation>
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Процент</translation>
     </message>
     <message>
         <source>Period</source>
-        <translation type="unfinished"></translation>
+        <translation>Срок</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>Телефон</translation>
     </message>
     <message>
         <source>Please select currency for account!</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите валюту счёта!</translation>
     </message>
     <message>
         <source>Please select default currency for project</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите основную валюту проекта</translation>
     </message>
     <message>
         <source>Please select default currency for project and confirm changes!</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите основную валюту проекта и подтвердите изменения!</translation>
     </message>
     <message>
         <source>Polish Zloty</source>
-        <translation type="unfinished"></translation>
+        <translation>Польский злотый</translation>
     </message>
     <message>
         <source>Price</source>
-        <translation type="unfinished"></translation>
+        <translation>Цена</translation>
     </message>
     <message>
         <source>Price Sum</source>
-        <translation type="unfinished"></translation>
+        <translation>Сумма продаж</translation>
     </message>
     <message>
         <source>Proceed</source>
-        <translation type="unfinished"></translation>
+        <translation>Продолжить</translation>
+    </message>
+    <message>
+        <source>Product Base Cost</source>
+        <translation>Себестоимость товара</translation>
+    </message>
+    <message>
+        <source>Product Description</source>
+        <translation>Описание товара</translation>
     </message>
     <message>
         <source>Product Document '</source>
-        <translation type="unfinished"></translation>
+        <translation>Товарный документ '</translation>
     </message>
     <message>
         <source>Product Documents From: </source>
-        <translation type="unfinished"></translation>
+        <translation>Товарные документы с: </translation>
+    </message>
+    <message>
+        <source>Product GST Rate</source>
+        <translation>Ставка GST товара</translation>
+    </message>
+    <message>
+        <source>Product Group</source>
+        <translation>Группа товаров</translation>
     </message>
     <message>
         <source>Product Journal</source>
-        <translation type="unfinished"></translation>
+        <translation>Журнал товарных документов</translation>
+    </message>
+    <message>
+        <source>Product Name</source>
+        <translation>Наименование товара</translation>
+    </message>
+    <message>
+        <source>Product Pack</source>
+        <translation>Упаковка товара</translation>
+    </message>
+    <message>
+        <source>Product Price</source>
+        <translation>Цена товара</translation>
+    </message>
+    <message>
+        <source>Product Unit</source>
+        <translation>Единица измерения товара</translation>
+    </message>
+    <message>
+        <source>Product VAT Rate</source>
+        <translation>Ставка НДС товара</translation>
     </message>
     <message>
         <source>Products</source>
-        <translation type="unfinished"></translation>
+        <translation>Товары</translation>
     </message>
     <message>
         <source>Products Catalog</source>
-        <translation type="unfinished"></translation>
+        <translation>Справочник товаров</translation>
     </message>
     <message>
         <source>Products On Warehouses</source>
-        <translation type="unfinished"></translation>
+        <translation>Товары на складах</translation>
     </message>
     <message>
         <source>Products in Warehouses</source>
-        <translation type="unfinished"></translation>
+        <translation>Товары на складах</translation>
     </message>
     <message>
         <source>Products on Warehouses</source>
-        <translation type="unfinished"></translation>
+        <translation>Товары на складах</translation>
     </message>
     <message>
         <source>Profit</source>
-        <translation type="unfinished"></translation>
+        <translation>Прибыль</translation>
     </message>
     <message>
         <source>Project </source>
-        <translation type="unfinished"></translation>
+        <translation>Проект </translation>
     </message>
     <message>
         <source>Project Management</source>
-        <translation type="unfinished"></translation>
+        <translation>Проекты</translation>
     </message>
     <message>
         <source>Property Document '</source>
-        <translation type="unfinished"></translation>
+        <translation>Документ ОС '</translation>
     </message>
     <message>
         <source>Purchase</source>
-        <translation type="unfinished"></translation>
+        <translation>Покупка</translation>
     </message>
     <message>
         <source>Purchase of Fixed Asset</source>
-        <translation type="unfinished"></translation>
+        <translation>Покупка ОС</translation>
     </message>
     <message>
         <source>Qty</source>
-        <translation type="unfinished"></translation>
+        <translation>Остаток</translation>
     </message>
     <message>
         <source>Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Курс</translation>
     </message>
     <message>
         <source>Reason</source>
-        <translation type="unfinished"></translation>
+        <translation>Причина</translation>
     </message>
     <message>
         <source>Reasons for Write-Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Причины списания</translation>
     </message>
     <message>
         <source>Received Sum</source>
-        <translation type="unfinished"></translation>
+        <translation>Получено</translation>
     </message>
     <message>
         <source>Report by Selling For Period.</source>
-        <translation type="unfinished"></translation>
+        <translation>Отчёт по продажам за период.</translation>
     </message>
     <message>
         <source>Reports</source>
-        <translation type="unfinished"></translation>
+        <translation>Отчёты</translation>
     </message>
     <message>
         <source>Reserve</source>
-        <translation type="unfinished"></translation>
+        <translation>Резерв</translation>
     </message>
     <message>
         <source>Return</source>
-        <translation type="unfinished"></translation>
+        <translation>Возврат</translation>
     </message>
     <message>
         <source>Russian Ruble</source>
-        <translation type="unfinished"></translation>
+        <translation>Российский рубль</translation>
     </message>
     <message>
         <source>Salary</source>
-        <translation type="unfinished"></translation>
+        <translation>Оклад</translation>
     </message>
     <message>
         <source>Sale</source>
-        <translation type="unfinished"></translation>
+        <translation>Продажа</translation>
     </message>
     <message>
         <source>Sale of Fixed Asset</source>
-        <translation type="unfinished"></translation>
+        <translation>Продажа ОС</translation>
     </message>
     <message>
         <source>Sale of Services</source>
-        <translation type="unfinished"></translation>
+        <translation>Продажа услуг</translation>
     </message>
     <message>
         <source>Sales for a Period</source>
-        <translation type="unfinished"></translation>
+        <translation>Продажи за период</translation>
     </message>
     <message>
         <source>Sales of a Period</source>
-        <translation type="unfinished"></translation>
+        <translation>Продажи за период</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить</translation>
     </message>
     <message>
         <source>Search (Ctrl+F)</source>
-        <translation type="unfinished"></translation>
+        <translation>Поиск (Ctrl+F)</translation>
     </message>
     <message>
         <source>Search in the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Поиск в списке</translation>
     </message>
     <message>
         <source>Selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбран</translation>
     </message>
     <message>
         <source>Selected Counterparties</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбранные контрагенты</translation>
     </message>
     <message>
         <source>Selected Spendings</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбранные расходы</translation>
     </message>
     <message>
         <source>Selling</source>
-        <translation type="unfinished"></translation>
+        <translation>Продажа</translation>
     </message>
     <message>
         <source>Shipment</source>
-        <translation type="unfinished"></translation>
+        <translation>Доставка</translation>
     </message>
     <message>
         <source>Short</source>
-        <translation type="unfinished"></translation>
+        <translation>Кратко</translation>
+    </message>
+    <message>
+        <source>Short Name</source>
+        <translation>Сокращение</translation>
     </message>
     <message>
         <source>Shorthand</source>
-        <translation type="unfinished"></translation>
+        <translation>Сокращение</translation>
     </message>
     <message>
         <source>Sign</source>
-        <translation type="unfinished"></translation>
+        <translation>Знак</translation>
+    </message>
+    <message>
+        <source>Slider of Days of Deferred Payment</source>
+        <translation>Ползунок дней отсрочки</translation>
     </message>
     <message>
         <source>Sorry this menu item not released yet!</source>
-        <translation type="unfinished"></translation>
+        <translation>Этот пункт меню пока не готов!</translation>
     </message>
     <message>
         <source>Spending</source>
-        <translation type="unfinished"></translation>
+        <translation>Расход</translation>
     </message>
     <message>
         <source>Spendings</source>
-        <translation type="unfinished"></translation>
+        <translation>Расходы</translation>
     </message>
     <message>
         <source>Spendings Catalog</source>
-        <translation type="unfinished"></translation>
+        <translation>Справочник расходов</translation>
     </message>
     <message>
         <source>Spendings Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Отчёт по расходам</translation>
     </message>
     <message>
         <source>Stock In</source>
-        <translation type="unfinished"></translation>
+        <translation>Оприходование</translation>
     </message>
     <message>
         <source>Sum</source>
-        <translation type="unfinished"></translation>
+        <translation>Сумма</translation>
     </message>
     <message>
         <source>Swedish Krona</source>
-        <translation type="unfinished"></translation>
+        <translation>Шведская крона</translation>
     </message>
     <message>
         <source>Swiss Franc</source>
-        <translation type="unfinished"></translation>
+        <translation>Швейцарский франк</translation>
     </message>
     <message>
         <source>TAX</source>
-        <translation type="unfinished"></translation>
+        <translation>Налог</translation>
     </message>
     <message>
         <source>TAX Amount</source>
-        <translation type="unfinished"></translation>
+        <translation>Сумма налога</translation>
     </message>
     <message>
         <source>TOTAL</source>
-        <translation type="unfinished"></translation>
+        <translation>ИТОГО</translation>
     </message>
     <message>
         <source>TOTAL:</source>
-        <translation type="unfinished"></translation>
+        <translation>ИТОГО:</translation>
     </message>
     <message>
         <source>Tab #</source>
-        <translation type="unfinished"></translation>
+        <translation>Вкладка №</translation>
     </message>
     <message>
         <source>The GST rate must lie between 0 and 100 percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ставка GST должна быть от 0 до 100 процентов.</translation>
     </message>
     <message>
         <source>The VAT rate must lie between 0 and 100 percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ставка НДС должна быть от 0 до 100 процентов.</translation>
     </message>
     <message>
         <source>The balance must be a number!</source>
-        <translation type="unfinished"></translation>
+        <translation>Баланс должен быть числом!</translation>
     </message>
     <message>
         <source>The changes were not applied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменения не применены.</translation>
     </message>
     <message>
         <source>The changes were not saved!</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменения не сохранены!</translation>
     </message>
     <message>
         <source>The currency of a stored account cannot be changed!</source>
-        <translation type="unfinished"></translation>
+        <translation>Валюту сохранённого счёта изменить нельзя!</translation>
     </message>
     <message>
         <source>The currency of a stored account stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Валюту сохранённого счёта изменить нельзя.</translation>
     </message>
     <message>
         <source>The date is out of range.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Недопустимая дата.
+</translation>
     </message>
     <message>
         <source>The default currency of a project stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Основную валюту проекта изменить нельзя.</translation>
     </message>
     <message>
         <source>The deferment must lie between 0 and %1 days.</source>
-        <translation type="unfinished"></translation>
+        <translation>Отсрочка должна быть от 0 до %1 дней.</translation>
     </message>
     <message>
         <source>The deferment must lie between 0 and 36500 days.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Отсрочка должна быть от 0 до 36500 дней.
+</translation>
     </message>
     <message>
         <source>The document is confirmed already.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Документ уже проведён.
+</translation>
     </message>
     <message>
         <source>The document is not in the project any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Этого документа в проекте больше нет.</translation>
     </message>
     <message>
         <source>The document was confirmed or deleted in the meantime.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Документ тем временем провели или удалили.
+</translation>
     </message>
     <message>
         <source>The document's rows were changed in the meantime. Please open it again.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Строки документа тем временем изменились. Откройте его ещё раз.
+</translation>
     </message>
     <message>
         <source>The fixed asset is not held any more!</source>
-        <translation type="unfinished"></translation>
+        <translation>Этого основного средства больше нет на балансе!</translation>
     </message>
     <message>
         <source>The fixed asset is sold or written off already.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Основное средство уже продано или списано.
+</translation>
     </message>
     <message>
         <source>The last finished month is closed already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Последний завершённый месяц уже закрыт.</translation>
     </message>
     <message>
         <source>The longest deferment must lie between 0 and 36500 days.</source>
-        <translation type="unfinished"></translation>
+        <translation>Наибольшая отсрочка должна быть от 0 до 36500 дней.</translation>
     </message>
     <message>
         <source>The longest deferment must not be below 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Наибольшая отсрочка не может быть меньше 0.</translation>
     </message>
     <message>
         <source>The period and the current cost must be numbers, the period not below 0!</source>
-        <translation type="unfinished"></translation>
+        <translation>Срок и остаточная стоимость должны быть числами, срок — не меньше 0!</translation>
     </message>
     <message>
         <source>The project has no settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>В проекте нет настроек.</translation>
     </message>
     <message>
         <source>The project is in use by another program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Проект открыт в другой программе.</translation>
     </message>
     <message>
         <source>The project is open for reading only. Nothing can be changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Проект открыт только для чтения. Изменить ничего нельзя.</translation>
     </message>
     <message>
         <source>The rate of a currency must be above 0!</source>
-        <translation type="unfinished"></translation>
+        <translation>Курс валюты должен быть больше 0!</translation>
     </message>
     <message>
         <source>The report period must be 1, 2 or 3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Отчётный период должен быть 1, 2 или 3.</translation>
     </message>
     <message>
         <source>The salary must be a number!</source>
-        <translation type="unfinished"></translation>
+        <translation>Оклад должен быть числом!</translation>
     </message>
     <message>
         <source>There is no project at rest to copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет закрытого проекта, который можно скопировать.</translation>
     </message>
     <message>
         <source>There is no such currency.</source>
-        <translation type="unfinished"></translation>
+        <translation>Такой валюты нет.</translation>
     </message>
     <message>
         <source>These inputs are missing: </source>
-        <translation type="unfinished"></translation>
+        <translation>Не заполнены поля: </translation>
     </message>
     <message>
         <source>This is not a number. Write 1234.50 or 1234,50.</source>
-        <translation type="unfinished"></translation>
+        <translation>Это не число. Введите 1234.50 или 1234,50.</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>По</translation>
     </message>
     <message>
         <source>To Warehouse</source>
-        <translation type="unfinished"></translation>
+        <translation>На склад</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Итого</translation>
     </message>
     <message>
         <source>Transfer Between Accounts</source>
-        <translation type="unfinished"></translation>
+        <translation>Перевод между счетами</translation>
     </message>
     <message>
         <source>Transfer Between Warehouses</source>
-        <translation type="unfinished"></translation>
+        <translation>Перемещение между складами</translation>
     </message>
     <message>
         <source>Turkish Lira</source>
-        <translation type="unfinished"></translation>
+        <translation>Турецкая лира</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Вид</translation>
     </message>
     <message>
         <source>US Dollar</source>
-        <translation type="unfinished"></translation>
+        <translation>Доллар США</translation>
     </message>
     <message>
         <source>Ukrainian Hryvnia</source>
-        <translation type="unfinished"></translation>
+        <translation>Украинская гривна</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ед. изм.</translation>
+    </message>
+    <message>
+        <source>Unit Name</source>
+        <translation>Наименование единицы</translation>
+    </message>
+    <message>
+        <source>Unit Short Name</source>
+        <translation>Сокращение единицы</translation>
     </message>
     <message>
         <source>Units</source>
-        <translation type="unfinished"></translation>
+        <translation>Единицы измерения</translation>
     </message>
     <message>
         <source>Units Catalog</source>
-        <translation type="unfinished"></translation>
+        <translation>Справочник единиц измерения</translation>
+    </message>
+    <message>
+        <source>Units in a Pack</source>
+        <translation>Единиц в упаковке</translation>
     </message>
     <message>
         <source>Ups! Something goes wrong!</source>
-        <translation type="unfinished"></translation>
+        <translation>Что-то пошло не так!</translation>
     </message>
     <message>
         <source>VAT</source>
-        <translation type="unfinished"></translation>
+        <translation>НДС</translation>
     </message>
     <message>
         <source>VAT Amount</source>
-        <translation type="unfinished"></translation>
+        <translation>Сумма НДС</translation>
+    </message>
+    <message>
+        <source>VAT Number</source>
+        <translation>ИНН</translation>
     </message>
     <message>
         <source>VAT and GST cannot be used at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>НДС и GST нельзя применять вместе.</translation>
+    </message>
+    <message>
+        <source>VAT, %</source>
+        <translation>НДС, %</translation>
+    </message>
+    <message>
+        <source>Warehouse Address</source>
+        <translation>Адрес склада</translation>
+    </message>
+    <message>
+        <source>Warehouse Manager</source>
+        <translation>Заведующий складом</translation>
+    </message>
+    <message>
+        <source>Warehouse Name</source>
+        <translation>Наименование склада</translation>
     </message>
     <message>
         <source>Warehouses</source>
-        <translation type="unfinished"></translation>
+        <translation>Склады</translation>
     </message>
     <message>
         <source>Warehouses List</source>
-        <translation type="unfinished"></translation>
+        <translation>Список складов</translation>
     </message>
     <message>
         <source>We have not '</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет товара «</translation>
     </message>
     <message>
         <source>We have not enough '</source>
-        <translation type="unfinished"></translation>
+        <translation>Не хватает товара «</translation>
+    </message>
+    <message>
+        <source>Within</source>
+        <translation>Внутри</translation>
     </message>
     <message>
         <source>Write-Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Списание</translation>
     </message>
     <message>
         <source>Write-Off of Fixed Asset</source>
-        <translation type="unfinished"></translation>
+        <translation>Списание ОС</translation>
     </message>
     <message>
         <source>Writing to %1 failed (%2); the last operation was taken back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Запись в %1 не удалась (%2); последняя операция отменена.</translation>
     </message>
     <message>
         <source>Writing to %1 failed (%2); the whole run was taken back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Запись в %1 не удалась (%2); все операции отменены.</translation>
     </message>
     <message>
         <source>You are trying to change contragent balance manually. It may cause of incorrectness main balance. Are you sure?</source>
-        <translation type="unfinished"></translation>
+        <translation>Вы меняете баланс контрагента вручную. Общий баланс может стать неверным. Вы уверены?</translation>
     </message>
     <message>
         <source>You are trying to change employee balance manually. It may cause of incorrectness main balance. Are you sure?</source>
-        <translation type="unfinished"></translation>
+        <translation>Вы меняете баланс сотрудника вручную. Общий баланс может стать неверным. Вы уверены?</translation>
     </message>
     <message>
         <source>You are trying to change product base cost manually. Normally it calculated by program. It may cause of incorrectness main balance. Are you sure?</source>
-        <translation type="unfinished"></translation>
+        <translation>Вы меняете себестоимость товара вручную. Обычно её рассчитывает программа. Общий баланс может стать неверным. Вы уверены?</translation>
     </message>
     <message>
         <source>You are trying to confirm document with date from closed period!
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Нельзя провести документ с датой из закрытого периода!
+</translation>
     </message>
     <message>
         <source>Your changes will be lost if you don't save them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Без сохранения изменения пропадут.</translation>
     </message>
     <message>
         <source>all</source>
-        <translation type="unfinished"></translation>
+        <translation>все</translation>
     </message>
     <message>
         <source>another program has put it into write-ahead mode; opening it for writing brings it back</source>
-        <translation type="unfinished"></translation>
+        <translation>другая программа перевела его в режим упреждающей записи; открытие для записи вернёт обычный режим</translation>
     </message>
     <message>
         <source>another program is writing to it</source>
-        <translation type="unfinished"></translation>
+        <translation>в него пишет другая программа</translation>
     </message>
     <message>
         <source>in use by %1 (process %2 on %3) since %4</source>
-        <translation type="unfinished"></translation>
+        <translation>занят: %1 (процесс %2 на %3) с %4</translation>
     </message>
     <message>
         <source>in use: its lock %1 cannot be read; remove that file if nobody works with the project</source>
-        <translation type="unfinished"></translation>
+        <translation>занят: не удалось прочесть файл блокировки %1; удалите его, если с проектом никто не работает</translation>
     </message>
     <message>
         <source>it cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>его не удалось открыть</translation>
     </message>
     <message>
         <source>it cannot be written</source>
-        <translation type="unfinished"></translation>
+        <translation>в него нельзя писать</translation>
     </message>
     <message>
         <source>it could not be brought to the disk</source>
-        <translation type="unfinished"></translation>
+        <translation>его не удалось записать на диск</translation>
     </message>
     <message>
         <source>it holds "%1", which is no plain table</source>
-        <translation type="unfinished"></translation>
+        <translation>в нём есть «%1» — это не простая таблица</translation>
     </message>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>это папка</translation>
     </message>
     <message>
         <source>it is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>он повреждён</translation>
     </message>
     <message>
         <source>it is no project file</source>
-        <translation type="unfinished"></translation>
+        <translation>это не файл проекта</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>это не обычный файл</translation>
     </message>
     <message>
         <source>it is the file of another program</source>
-        <translation type="unfinished"></translation>
+        <translation>это файл другой программы</translation>
     </message>
     <message>
         <source>its lock file cannot be written</source>
-        <translation type="unfinished"></translation>
+        <translation>не удалось записать его файл блокировки</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>нет</translation>
     </message>
     <message>
         <source>nothing can be written in its folder</source>
-        <translation type="unfinished"></translation>
+        <translation>в его папку нельзя писать</translation>
     </message>
     <message>
         <source>selected</source>
-        <translation type="unfinished"></translation>
+        <translation>выбрано</translation>
     </message>
     <message>
         <source>the examination broke off</source>
-        <translation type="unfinished"></translation>
+        <translation>проверка прервалась</translation>
     </message>
     <message>
         <source>the file has a second name (a hard link), and writing under one of them can destroy it</source>
-        <translation type="unfinished"></translation>
+        <translation>у файла есть второе имя (жёсткая ссылка), запись под одним из них может его разрушить</translation>
     </message>
     <message>
         <source>there is already a file of that name</source>
-        <translation type="unfinished"></translation>
+        <translation>файл с таким именем уже есть</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>такого файла нет</translation>
     </message>
     <message>
         <source>there is no such folder</source>
-        <translation type="unfinished"></translation>
+        <translation>такой папки нет</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>да</translation>
     </message>
     <message>
         <source>you may not read it</source>
-        <translation type="unfinished"></translation>
+        <translation>у вас нет права его читать</translation>
     </message>
 </context>
 </TS>

@@ -6,7 +6,6 @@
 #include <QtCore/QTranslator>
 #include <QtWidgets/QApplication>
 
-#include <algorithm>
 #include <memory>
 
 using namespace Qt::Literals::StringLiterals;
@@ -23,18 +22,6 @@ namespace {
 
 constexpr auto tables = ":/zelvor/translations"_L1;
 constexpr auto ownName = "translation"_L1;
-
-// The first known of the desktop's languages. English stands in no table, yet whoever prefers it to Russian
-// gets it.
-QString desktopLanguage(const QStringList& known)
-{
-    for (const QString& tag : QLocale::system().uiLanguages()) {
-        const QString language = tag.section(u'-', 0, 0);
-        if (known.contains(language))
-            return language;
-    }
-    return known.first();
-}
 
 // The application owns what it speaks, and an earlier choice goes when a new one comes.
 void install(QApplication& application, const QString& fileName, const QString& folder)
@@ -58,15 +45,26 @@ QStringList knownLanguages()
     return languages;
 }
 
-void installTranslations(QApplication& application, const QString& language)
+// English stands in no table, yet whoever prefers it to another known language gets it.
+QString spokenLanguage(const QString& chosen, const QStringList& wanted)
 {
     const QStringList known = knownLanguages();
-    const QString spoken = known.contains(language) ? language : desktopLanguage(known);
+    if (known.contains(chosen))
+        return chosen;
+    for (const QString& tag : wanted) {
+        const QString language = tag.section(u'-', 0, 0);
+        if (known.contains(language))
+            return language;
+    }
+    return known.first();
+}
+
+void installTranslations(QApplication& application, const QString& language)
+{
+    const QString spoken = spokenLanguage(language, QLocale::system().uiLanguages());
     for (QTranslator* const earlier :
          application.findChildren<QTranslator*>(ownName, Qt::FindDirectChildrenOnly))
         delete earlier;
-    if (spoken == known.first())
-        return;
     install(application, u"qtbase_"_s + spoken, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     install(application, u"zelvor_"_s + spoken, tables);
 }

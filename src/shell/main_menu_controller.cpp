@@ -1,5 +1,6 @@
 #include "shell/main_menu_controller.h"
 
+#include "core/localized.h"
 #include "shell/main_view_controller.h"
 #include "store/menu.h"
 
@@ -23,7 +24,7 @@ std::shared_ptr<MainMenuItem> makeItem(const Menu& entry, const QString& identif
     if (!type)
         return nullptr;
     auto item = std::make_shared<MainMenuItem>();
-    item->title = entry.name;
+    item->title = localized(entry.name.toUtf8().constData());
     item->identifier = identifier;
     item->type = *type;
     item->icon = docTypeImage(*type);
