@@ -116,6 +116,14 @@
         <translation>Список счетов</translation>
     </message>
     <message>
+        <source>Add</source>
+        <translation>Добавить</translation>
+    </message>
+    <message>
+        <source>Add (Ctrl+N or Insert)</source>
+        <translation>Добавить (Ctrl+N или Insert)</translation>
+    </message>
+    <message>
         <source>Add Account Type</source>
         <translation>Добавить вид счёта</translation>
     </message>
@@ -580,6 +588,10 @@
         <translation>Эл. почта</translation>
     </message>
     <message>
+        <source>Edit</source>
+        <translation>Изменить</translation>
+    </message>
+    <message>
         <source>Edit Account</source>
         <translation>Правка счёта</translation>
     </message>
@@ -630,6 +642,10 @@
     <message>
         <source>Edit Warehouse</source>
         <translation>Правка склада</translation>
+    </message>
+    <message>
+        <source>Edit the row (F2)</source>
+        <translation>Изменить строку (F2)</translation>
     </message>
     <message>
         <source>Employee</source>

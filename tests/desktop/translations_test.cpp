@@ -49,10 +49,6 @@ bool showsText(const QAbstractItemModel& model, const QString& text, const QMode
     return false;
 }
 
-constexpr DocType pages[] = {DocType::ProductCatalog,     DocType::ContragentCatalog, DocType::StockCatalog,
-                             DocType::MeasurementCatalog, DocType::ProductJournal,    DocType::BalanceSheet,
-                             DocType::PeriodSellReport,   DocType::SellProduct,       DocType::BuyProduct};
-
 } // namespace
 
 class Translations : public testing::Test {
@@ -75,11 +71,12 @@ TEST_F(Translations, theChosenLanguageIsSpokenElseTheFirstKnownOneOfTheDesktop)
 TEST_F(Translations, anotherLanguageReplacesTheOneBefore)
 {
     speak(u"ru"_s);
+    const auto once = qApp->findChildren<QTranslator*>().size();
     speak(u"ru"_s);
+    EXPECT_EQ(qApp->findChildren<QTranslator*>().size(), once);
     EXPECT_EQ(localized("Save"), u"Сохранить");
     speak(u"en"_s);
     EXPECT_EQ(localized("Save"), u"Save");
-    EXPECT_EQ(qApp->findChildren<QTranslator*>().size(), 0);
 }
 
 TEST_F(Translations, textsKeepTheirPlaceholdersAndLines)
@@ -148,32 +145,6 @@ TEST_F(Translations, aCatalogPageHasItsTitleAndItsColumnsInTheLanguage)
     ASSERT_NE(header, nullptr);
     EXPECT_TRUE(columnTitles(*header).contains(u"Наименование"))
         << columnTitles(*header).join(u'|').toStdString();
-}
-
-TEST_F(Translations, noColumnTitleIsCutOff)
-{
-    for (const QString& language : knownLanguages()) {
-        speak(language);
-        DesktopProgram program;
-        program.openNewProject();
-        program.window().resize(1440, 900);
-        for (const DocType type : pages) {
-            program.workspace().topMenuAction(type);
-            QApplication::processEvents();
-            for (QAbstractItemView* const list :
-                 program.window().activePage()->findChildren<QAbstractItemView*>()) {
-                const QHeaderView* const header = headerOf(*list);
-                if (!header || !header->isVisible())
-                    continue;
-                for (int column = 0; column < header->count(); ++column) {
-                    if (!header->isSectionHidden(column))
-                        EXPECT_GE(header->sectionSize(column), header->sectionSizeHint(column))
-                            << header->model()->headerData(column, Qt::Horizontal).toString().toStdString()
-                            << " of " << program.window().activePage()->view().name().toStdString();
-                }
-            }
-        }
-    }
 }
 
 } // namespace zelvor
