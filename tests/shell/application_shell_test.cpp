@@ -402,6 +402,24 @@ TEST_F(Start, anotherFileHandedOverTakesThePlaceOfTheOpenProject)
     EXPECT_EQ(program.defaults.defaultBusiness(), u"second"_s);
 }
 
+TEST_F(Start, anOpenProjectIsLeftForAFileThatTurnsOutToBeNone)
+{
+    QFile text(program.file(u"text.pdb"_s));
+    ASSERT_TRUE(text.open(QIODevice::WriteOnly));
+    text.write("no project");
+    text.close();
+    shell.openFile(project(u"shop"_s));
+    shell.showDefaults();
+    shell.mainWindowController.topMenuAction(DocType::StockCatalog);
+    shell.openFile(text.fileName());
+    EXPECT_EQ(program.dialogs.lastAlert(), u"Can't open project file!"_s);
+    EXPECT_TRUE(projectWindowIsUp());
+    EXPECT_FALSE(shell.window.isOpen());
+    EXPECT_FALSE(shell.preferences.window.isOpen());
+    EXPECT_TRUE(shell.mainWindowController.openedView.empty());
+    EXPECT_FALSE(program.appDelegate.connector.isOpen());
+}
+
 // --- in use by another program
 
 TEST_F(Start, aProjectInUseIsNotAskedForAtTheStart)
@@ -499,14 +517,16 @@ TEST_F(Start, anotherProjectShowsItsOwnCatalogs)
     products.selectItem(products.child(nullptr, 0));
     main.stockController->editStock();
     main.productController->editProduct();
-    main.managerController->addManager();
+    main.stockController->addManager();
     EXPECT_TRUE(main.stockController->stockPopover.isOpen());
+    EXPECT_TRUE(main.managerController->managerPopover.isOpen());
 
     shell.closeWindow();
     EXPECT_FALSE(main.stockController->stockPopover.isOpen());
     EXPECT_FALSE(main.productController->productPopover.isOpen());
     EXPECT_FALSE(main.managerController->managerPopover.isOpen());
     EXPECT_FALSE(main.stockController->focusedObject);
+    EXPECT_FALSE(main.stockController->addNewManager); // no employee comes from that popover any more
     EXPECT_FALSE(main.productController->focusedObject);
     EXPECT_EQ(stocks.numberOfRows(), 0); // and whoever asks now does not spoil what comes
 
@@ -537,6 +557,19 @@ TEST_F(Start, aChooserThatWasFilledInOneProjectIsFilledAnewInTheNext)
     stocks.addStock(); // nobody has looked at the list yet
     ASSERT_EQ(stocks.stockManagerSelect.items().size(), 2U);
     EXPECT_EQ(stocks.stockManagerSelect.items().back().title, u"Bob"_s);
+}
+
+TEST_F(Start, aSelectionOfOneProjectSelectsNothingInTheNext)
+{
+    const QString first = project(u"first"_s, named<Stock>(u"Cellar"_s));
+    const QString second = project(u"second"_s, named<Stock>(u"Attic"_s));
+    StockView& stocks = shell.mainWindowController.stockController->view;
+    shell.openFile(first);
+    EXPECT_EQ(stocks.numberOfRows(), 1);
+    stocks.selectRow(0);
+    shell.openFile(second);
+    EXPECT_EQ(stocks.value(0, u"name"_s).toString(), u"Attic"_s);
+    EXPECT_EQ(stocks.selectedRow(), -1);
 }
 
 TEST_F(Start, anotherProjectShowsItsOwnBalance)

@@ -1,5 +1,7 @@
 #include "shell/main_view_controller.h"
 
+#include "catalogs/product_view_controller.h"
+#include "catalogs/stock_view_controller.h"
 #include "support/books.h"
 
 #include <gtest/gtest.h>
@@ -74,9 +76,13 @@ TEST_F(FootLine, answersTheQuestionsOfTheCalendarOfMonths)
 TEST_F(FootLine, nothingIsReadBeforeSomebodyLooks)
 {
     main.checkParams();
+    EXPECT_EQ(main.stockController->view.numberOfRows(), 0);
+    EXPECT_EQ(main.productController->view.numberOfChildren(nullptr), 0);
     const qint64 before = books.db.statementCount();
     main.prepareAllData();
     EXPECT_EQ(books.db.statementCount(), before);
+    EXPECT_TRUE(main.stockController->isStale());
+    EXPECT_TRUE(main.productController->isStale());
     EXPECT_FALSE(books.posted.has(NotificationName::BalanceCalculatedNotification));
 }
 

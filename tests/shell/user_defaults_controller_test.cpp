@@ -84,6 +84,8 @@ TEST_F(Preferences, areTitledByTheProject)
     EXPECT_TRUE(preferences.window.isOpen());
     EXPECT_TRUE(preferences.defaultCurrencyWarning.hidden());
     EXPECT_FALSE(preferences.applyButton.enabled());
+    EXPECT_FALSE(preferences.currencySelect.enabled());
+    EXPECT_EQ(preferences.currencySelect.selectedTag(), rawValue(CurrencyStruct::EUR));
 }
 
 TEST_F(Preferences, offerEveryCurrencyAndNone)
