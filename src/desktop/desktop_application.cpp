@@ -2,12 +2,49 @@
 
 #include <QtWidgets/QApplication>
 
+#include <memory>
+
 namespace zelvor {
 
+namespace {
+
+void bringToFront(QWidget& window)
+{
+    window.raise();
+    window.activateWindow();
+}
+
+} // namespace
+
 DesktopApplication::DesktopApplication(AppDelegate& owner, DesktopSettings& desktopSettings)
-    : appDelegate(owner), settings(desktopSettings), shell(owner), projectWindow(shell),
-      preferencesWindow(shell), mainWindow(shell)
-{}
+    : appDelegate(owner), settings(desktopSettings), shell(owner), projectWindow(shell, desktopSettings),
+      preferencesWindow(shell, desktopSettings), mainWindow(shell, desktopSettings)
+{
+    connectWindows();
+}
+
+void DesktopApplication::connectWindows()
+{
+    QObject::connect(&mainWindow, &MainWindow::preferencesRequested, &preferencesWindow, [this] {
+        shell.showDefaults();
+        bringToFront(preferencesWindow);
+    });
+    QObject::connect(&mainWindow, &MainWindow::projectsRequested, &projectWindow, [this] {
+        shell.startWindowController.showWindow();
+        bringToFront(projectWindow);
+    });
+    QObject::connect(&mainWindow, &MainWindow::quitRequested, &mainWindow, [this] { quit(); });
+    QObject::connect(&preferencesWindow, &PreferencesWindow::left, &mainWindow, [this] {
+        if (mainWindow.isVisible())
+            bringToFront(mainWindow);
+    });
+    // Without a project this window is the program.
+    QObject::connect(&projectWindow, &ProjectWindow::left, &projectWindow, [this] {
+        if (!appDelegate.connector.isOpen())
+            quit();
+    });
+    QObject::connect(&projectWindow, &ProjectWindow::quitRequested, &projectWindow, [this] { quit(); });
+}
 
 void DesktopApplication::start(const QString& path)
 {
@@ -17,6 +54,24 @@ void DesktopApplication::start(const QString& path)
 void DesktopApplication::quit()
 {
     shell.quit([] { QApplication::quit(); });
+}
+
+bool DesktopApplication::sessionEnds(bool mayAsk)
+{
+    if (!mayAsk)
+        return true;
+    struct Leaving {
+        bool done = false;
+        bool asked = false; // the answer comes after this call
+    };
+    const auto leaving = std::make_shared<Leaving>();
+    shell.quit([leaving] {
+        leaving->done = true;
+        if (leaving->asked)
+            QApplication::quit();
+    });
+    leaving->asked = !leaving->done;
+    return leaving->done;
 }
 
 } // namespace zelvor

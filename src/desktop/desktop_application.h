@@ -30,6 +30,12 @@ public:
     void start(const QString& path);
     // Asks about unsaved documents, then ends the event loop.
     void quit();
+    // The user's session ends. False when documents with changes hold it up: the user is asked about them,
+    // and the program ends when all are saved or dropped.
+    bool sessionEnds(bool mayAsk);
+
+private:
+    void connectWindows();
 };
 
 } // namespace zelvor

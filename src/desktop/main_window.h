@@ -4,17 +4,18 @@
 
 #include <QtWidgets/QMainWindow>
 
-#include <unordered_map>
-
-class QLabel;
 class QSplitter;
-class QStackedWidget;
-class QTreeWidget;
 
 namespace zelvor {
 
 class ApplicationShell;
+class Commands;
+class DesktopSettings;
+class HeaderPanel;
+class MenuTree;
 class Page;
+class PageStack;
+class QuickOpen;
 class TabStrip;
 
 // The main window: menu bar, header panel, menu tree, tabs with their pages, foot line.
@@ -22,31 +23,47 @@ class MainWindow : public QMainWindow, public WorkspaceWindow {
     Q_OBJECT
 
 public:
-    explicit MainWindow(ApplicationShell& shell);
+    MainWindow(ApplicationShell& shell, DesktopSettings& settings);
     ~MainWindow() override;
 
+    // Null while no page is open.
     Page* activePage() const;
+    QuickOpen* quickOpen() const;
 
     void adjustWindowWidthForProductDocument(int width) override;
     void setLeftViewCollapsed(bool collapsed) override;
     void showAbout() override;
     void openUrl(const QString& url) override;
 
+Q_SIGNALS:
+    void preferencesRequested();
+    void projectsRequested();
+    void quitRequested();
+
 protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
+    void layOut();
+    void listen();
+    void showOrHide();
+    void showTitle();
     void showPages();
-    Page* pageOf(const TabPage& page);
+    void focusPage();
+    void rememberState();
+    void restoreState();
 
     ApplicationShell& m_shell;
     MainViewController& m_workspace;
+    DesktopSettings& m_settings;
+    HeaderPanel* m_header;
     QSplitter* m_splitter;
-    QTreeWidget* m_menuTree;
+    MenuTree* m_menuTree;
     TabStrip* m_tabStrip;
-    QStackedWidget* m_pages;
-    // Pages of permanent views stay when their tab goes; those of documents and reports go with it.
-    std::unordered_map<const BaseView*, Page*> m_pageOf;
+    PageStack* m_pages;
+    Commands* m_commands;
 };
 
 } // namespace zelvor

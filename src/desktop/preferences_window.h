@@ -1,17 +1,64 @@
 #pragma once
 
-#include <QtWidgets/QWidget>
+#include "core/outlets.h"
+
+#include <QtWidgets/QDialog>
+
+class QBoxLayout;
+class QComboBox;
+class QGridLayout;
+class QLabel;
+class QLineEdit;
 
 namespace zelvor {
 
 class ApplicationShell;
+class DesktopSettings;
+class ElidedLabel;
+class UserDefaultsController;
 
-// "Parameters for <project>": every field of the settings row.
-class PreferencesWindow : public QWidget {
+// "Parameters for <project>": every field of the settings row. A new project is set up here.
+class PreferencesWindow : public QDialog {
     Q_OBJECT
 
 public:
-    explicit PreferencesWindow(ApplicationShell& shell);
+    PreferencesWindow(ApplicationShell& shell, DesktopSettings& settings);
+
+    // Escape and the close button of the window: the controller decides whether it goes.
+    void reject() override;
+
+Q_SIGNALS:
+    // It was closed.
+    void left();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    void layOut();
+    QBoxLayout* makeButtons();
+    QGridLayout* addGroup(QBoxLayout* column, const QString& title);
+    QLineEdit* addText(QGridLayout* rows, TextField& field, const QString& label, const QString& name);
+    QLineEdit* addNumber(QGridLayout* rows, NumberField& field, const QString& label, int decimals);
+    void addCheck(QGridLayout* rows, CheckBox& box, const QString& label);
+    void addCurrency(QBoxLayout* column);
+    void addCompany(QBoxLayout* column);
+    void addLogo(QBoxLayout* column);
+    void addTaxes(QBoxLayout* column);
+    void addDocuments(QBoxLayout* column);
+    void addBank(QBoxLayout* column);
+    void addReportPeriod(QGridLayout* rows);
+    void addLastPeriod(QGridLayout* rows);
+    void showOrHide();
+    void showLogo();
+
+    ApplicationShell& m_shell;
+    UserDefaultsController& m_controller;
+    DesktopSettings& m_settings;
+    QComboBox* m_currency = nullptr;
+    QLineEdit* m_companyName = nullptr;
+    QLabel* m_logo = nullptr;
 };
 
 } // namespace zelvor

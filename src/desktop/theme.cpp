@@ -133,6 +133,13 @@ QColor groundColor(const Color& color, const QPalette& palette)
     return plain(color);
 }
 
+QColor lineColor(const QPalette& palette)
+{
+    QColor line = palette.color(QPalette::WindowText);
+    line.setAlphaF(0.2F);
+    return line;
+}
+
 double contrast(const QColor& a, const QColor& b)
 {
     const double first = luminance(a);

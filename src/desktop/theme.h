@@ -21,6 +21,8 @@ bool isDark(const QPalette& palette);
 // each has a dark partner. Text colours keep a contrast of at least 4.5:1 (WCAG 2.1, 1.4.3) against the base.
 QColor textColor(const Color& color, const QPalette& palette);
 QColor groundColor(const Color& color, const QPalette& palette);
+// Of a line that parts two areas.
+QColor lineColor(const QPalette& palette);
 // WCAG 2.1 relative contrast, 1 to 21.
 double contrast(const QColor& a, const QColor& b);
 

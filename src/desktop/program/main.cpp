@@ -1,37 +1,87 @@
 // The desktop program. One argument at most: the path of a project, as a file manager hands it over.
 #include "desktop/desktop_application.h"
 #include "desktop/icons.h"
+#include "desktop/termination_signals.h"
 #include "desktop/theme.h"
 
-#include <QtCore/QDir>
 #include <QtCore/QStandardPaths>
 #include <QtCore/QTimeZone>
+#include <QtCore/QTimer>
+#include <QtGui/QSessionManager>
 #include <QtWidgets/QApplication>
+
+#include <cstdio>
 
 using namespace Qt::Literals::StringLiterals;
 
-int main(int argc, char* argv[])
+namespace {
+
+constexpr int badUsage = 2;
+
+// Says what is wrong with the arguments; the empty text when nothing is.
+QString complaintAbout(const QStringList& arguments)
 {
-    QApplication application(argc, argv);
+    if (arguments.size() > 2)
+        return u"zelvor: one project file at most can be given."_s;
+    if (arguments.value(1).startsWith(u'-'))
+        return u"zelvor: there is no option '%1'. Usage: zelvor [PROJECT.pdb]"_s.arg(arguments[1]);
+    return {};
+}
+
+QString settingsPath()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           u"/Zelvor/Desktop.conf"_s;
+}
+
+void nameProgram()
+{
     QApplication::setApplicationName(u"Zelvor"_s);
     QApplication::setApplicationVersion(QStringLiteral(ZELVOR_VERSION));
     QApplication::setDesktopFileName(u"example.zelvor.Zelvor"_s);
     QApplication::setQuitOnLastWindowClosed(false);
-    zelvor::loadDesktopResources();
+}
 
-    const QString folder =
-        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/Zelvor"_s;
-    zelvor::DesktopSettings settings(folder + u"/Desktop.conf"_s);
-    zelvor::applyAppearance(application, settings.appearance());
-
+int run(QApplication& application, zelvor::DesktopSettings& settings)
+{
     zelvor::SystemClock clock;
     zelvor::WidgetDialogs dialogs;
     zelvor::DefaultsStore defaults;
     zelvor::AppDelegate appDelegate(
         {clock, zelvor::Calendar(QTimeZone::systemTimeZone()), dialogs, defaults});
     zelvor::DesktopApplication desktop(appDelegate, settings);
-    desktop.start(application.arguments().value(1));
+
+    const zelvor::TerminationSignals signals;
+    // Whoever ends a program this way does not wait for answers; what is stored is whole in any case.
+    QObject::connect(&signals, &zelvor::TerminationSignals::received, &application,
+                     [] { QApplication::exit(0); });
+    QObject::connect(
+        &application, &QGuiApplication::commitDataRequest, &application,
+        [&desktop](QSessionManager& session) {
+            if (!desktop.sessionEnds(session.allowsInteraction()))
+                session.cancel();
+        },
+        Qt::DirectConnection);
+    // Inside the loop: a question at the start can then be ended by a signal like any other.
+    QTimer::singleShot(0, &application,
+                       [&desktop, path = application.arguments().value(1)] { desktop.start(path); });
     const int code = QApplication::exec();
     desktop.shell.applicationWillTerminate();
     return code;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    if (const QString complaint = complaintAbout(application.arguments()); !complaint.isEmpty()) {
+        std::fprintf(stderr, "%s\n", qPrintable(complaint));
+        return badUsage;
+    }
+    nameProgram();
+    zelvor::loadDesktopResources();
+    zelvor::DesktopSettings settings(settingsPath());
+    zelvor::applyAppearance(application, settings.appearance());
+    return run(application, settings);
 }
