@@ -44,7 +44,11 @@ void ProductDocumentView::bindFields()
         shipmentChanged();
     };
     saveButton.onUserChange = [this] { m_controller.writeDoc(); };
-    deleteDocButton.onUserChange = [this] { m_controller.deleteDoc(); };
+    managerSelect.onUserChange = [this] {
+        m_controller.setManagerFromID(managerSelect.selectedTag());
+        checkControlls(&managerSelect);
+    };
+    deleteDocButton.onUserChange = [this] { m_controller.askDeleteDoc(); };
     deleteSelectedRowsButton.onUserChange = [this] { m_controller.deleteRow(); };
     confirmButton.onUserChange = [this] { m_controller.confirmDoc(); };
 }
@@ -63,7 +67,7 @@ auto ProductDocumentView::tax() const -> Tax
 
 std::vector<ViewColumn> ProductDocumentView::columns() const
 {
-    const bool editable = !document().confirmed;
+    const bool editable = m_controller.isEditable();
     const bool untaxed = tax() == Tax::None;
     const DocType type = document().docType();
     const bool sharesShipment = type == DocType::BuyProduct || type == DocType::Return;
@@ -128,10 +132,25 @@ bool ProductDocumentView::setValue(int row, const QString& identifier, const QVa
     return m_controller.setRowValue(row, identifier, number);
 }
 
+std::shared_ptr<Product> ProductDocumentView::droppedProduct(const QString& pasteboard) const
+{
+    return std::dynamic_pointer_cast<Product>(
+        m_controller.mainProductView().getItemWithIdentifier(pasteboard));
+}
+
+bool ProductDocumentView::validateDrop(const QString& pasteboard) const
+{
+    return m_controller.isEditable() && droppedProduct(pasteboard);
+}
+
 bool ProductDocumentView::acceptDrop(const QString& pasteboard)
 {
-    const auto dropped = m_controller.mainProductView().getItemWithIdentifier(pasteboard);
-    return m_controller.addProduct(std::dynamic_pointer_cast<Product>(dropped)) >= 0;
+    const int row = m_controller.addProduct(droppedProduct(pasteboard));
+    if (row < 0)
+        return false;
+    selectRow(row);
+    selectionChanged();
+    return true;
 }
 
 void ProductDocumentView::prepareStocks()
@@ -161,6 +180,38 @@ void ProductDocumentView::fillStockSelect(PopUpButton& select, qint64 heldID, co
         items.push_back({heldName, heldID});
     select.setItems(std::move(items));
     select.selectTag(heldID);
+}
+
+void ProductDocumentView::prepareManagers()
+{
+    const qint64 heldID = document().managerID;
+    auto managers =
+        m_controller.appDelegate.connector.freeSQL<Manager>("WHERE is_hidden=?", {false}, Fill::Nothing);
+    std::ranges::stable_sort(managers, NameLess{});
+    std::vector<PopUpButton::Item> items{{}};
+    items.reserve(managers.size() + 2);
+    for (const auto& manager : managers)
+        items.push_back({manager->name, manager->id});
+    // The document goes on naming who was responsible, also when he left since.
+    if (heldID != 0 && std::ranges::find(items, heldID, &PopUpButton::Item::tag) == items.end())
+        items.push_back({document().managerName(), heldID});
+    managerSelect.setItems(std::move(items));
+    managerSelect.selectTag(heldID);
+    m_managersPrepared = true;
+}
+
+void ProductDocumentView::managersChanged()
+{
+    if (m_managersPrepared)
+        prepareManagers();
+}
+
+void ProductDocumentView::showManager()
+{
+    const qint64 heldID = document().managerID;
+    if (!m_managersPrepared)
+        managerSelect.setItems({{}, {document().managerName(), heldID}});
+    managerSelect.selectTag(heldID);
 }
 
 std::shared_ptr<Stock> ProductDocumentView::stockWithID(qint64 stockID) const
@@ -197,7 +248,7 @@ bool ProductDocumentView::takeStockTo(qint64 stockID)
 
 bool ProductDocumentView::setStockFromID(qint64 stockID)
 {
-    if (document().confirmed || !m_controller.stockFromEnabled())
+    if (!m_controller.isEditable() || !m_controller.stockFromEnabled())
         return false;
     const bool taken = takeStockFrom(stockID);
     checkControlls();
@@ -206,7 +257,7 @@ bool ProductDocumentView::setStockFromID(qint64 stockID)
 
 bool ProductDocumentView::setStockToID(qint64 stockID)
 {
-    if (document().confirmed || !m_controller.stockToEnabled())
+    if (!m_controller.isEditable() || !m_controller.stockToEnabled())
         return false;
     const bool taken = takeStockTo(stockID);
     checkControlls();
@@ -221,6 +272,7 @@ void ProductDocumentView::showDocument()
     m_controller.contragentDiscountSlider.setHidden(!m_controller.discountEnabled());
     writeLabels();
     showContragent();
+    showManager();
     showTitle();
     showHideColumns();
     enableFields();
@@ -262,6 +314,7 @@ void ProductDocumentView::writeLabels()
     stockFromLabel.setText(localized("From Warehouse"));
     stockToLabel.setText(localized("To Warehouse"));
     contragentLabel.setText(localized("Counterparty"));
+    managerLabel.setText(localized("Responsible"));
     saldoLabel.setText(withCurrency(localized("Balance"), *params));
     shipmentLabel.setText(withCurrency(localized("Shipment"), *params));
     totalLabel.setText(withCurrency(localized("Total"), *params));
@@ -271,8 +324,9 @@ void ProductDocumentView::writeLabels()
 void ProductDocumentView::enableFields()
 {
     ProductDocumentViewController& form = m_controller;
-    const bool editable = !document().confirmed;
+    const bool editable = form.isEditable();
     date.setEnabled(editable);
+    managerSelect.setEnabled(editable);
     comment.setEnabled(editable);
     stockFromSelect.setEnabled(editable && form.stockFromEnabled());
     stockToSelect.setEnabled(editable && form.stockToEnabled());
@@ -287,11 +341,13 @@ void ProductDocumentView::enableFields()
     deleteDocButton.setEnabled(editable && document().id != 0);
     if (!editable)
         saveButton.setEnabled(false);
+    selectionChanged();
 }
 
 void ProductDocumentView::showHideColumns()
 {
     vatAmountLabel.setHidden(tax() == Tax::None);
+    m_controller.vatAmount.setHidden(tax() == Tax::None);
     if (tax() != Tax::None)
         vatAmountLabel.setText(
             withCurrency(tax() == Tax::VAT ? localized("VAT Amount") : localized("TAX Amount"), *params));
@@ -306,11 +362,11 @@ void ProductDocumentView::checkControlls(const Outlet* sender)
     } else if (sender == &stockToSelect) {
         takeStockTo(stockToSelect.selectedTag());
     }
-    if (document().confirmed)
+    if (!m_controller.isEditable())
         return;
     saveButton.setEnabled(true);
     deleteDocButton.setEnabled(document().id != 0);
-    deleteSelectedRowsButton.setEnabled(selectedRow() >= 0 && selectedRow() < numberOfRows());
+    selectionChanged();
     paintRequired();
 }
 
@@ -342,7 +398,7 @@ QStringList ProductDocumentView::missingInputs() const
 
 void ProductDocumentView::paintRequired()
 {
-    if (document().confirmed) {
+    if (!m_controller.isEditable()) {
         setGroundColor(whiteColor);
         confirmButton.setEnabled(false);
         return;
@@ -365,7 +421,13 @@ void ProductDocumentView::taxesChecked()
     document().withGST = m_controller.gstCheck.isOn();
     showHideColumns();
     m_controller.calculateTotals();
-    saveButton.setEnabled(!document().confirmed);
+    saveButton.setEnabled(m_controller.isEditable());
+}
+
+void ProductDocumentView::selectionChanged()
+{
+    deleteSelectedRowsButton.setEnabled(m_controller.isEditable() && selectedRow() >= 0 &&
+                                        selectedRow() < numberOfRows());
 }
 
 void ProductDocumentView::discountChanged()
@@ -379,7 +441,7 @@ void ProductDocumentView::shipmentChanged()
 {
     document().innerShipment = m_controller.shipment.value().rounded(ProductDocument::decimalHandler);
     m_controller.calculateTotals();
-    saveButton.setEnabled(!document().confirmed);
+    saveButton.setEnabled(m_controller.isEditable());
 }
 
 } // namespace zelvor

@@ -10,6 +10,7 @@
 namespace zelvor {
 
 class Params;
+class Product;
 class ProductDocument;
 class ProductDocumentViewController;
 class Stock;
@@ -31,10 +32,13 @@ public:
     PopUpButton stockToSelect{QStringLiteral("stockToSelect")};
     TextField contragentField{QStringLiteral("contragentField")}; // the name: chosen, never typed
     TextField comment{QStringLiteral("comment")};
+    // The responsible employee. Holds only the document's own until prepareManagers() fills it.
+    PopUpButton managerSelect{QStringLiteral("managerSelect")};
 
     Label stockFromLabel{QStringLiteral("stockFromLabel")};
     Label stockToLabel{QStringLiteral("stockToLabel")};
     Label contragentLabel{QStringLiteral("contragentLabel")};
+    Label managerLabel{QStringLiteral("managerLabel")};
     Label saldoLabel{QStringLiteral("saldoLabel")};
     Label shipmentLabel{QStringLiteral("shipmentLabel")};
     Label totalLabel{QStringLiteral("totalLabel")};
@@ -51,11 +55,17 @@ public:
     QVariant value(int row, const QString& identifier) const override;
     // A number may be given as a number or as a plain text: "12.50".
     bool setValue(int row, const QString& identifier, const QVariant& value) override;
-    // A row dragged out of the product tree beside the table; only a product is taken, a group is not.
+    // A row dragged out of the product tree beside the table; only a product is taken, a group is not. The
+    // row that it became is the selected one.
+    bool validateDrop(const QString& pasteboard) const;
     bool acceptDrop(const QString& pasteboard);
 
     // Reads the warehouses into the pop-ups of the type; the document's own stay selected.
     void prepareStocks();
+    // Reads the employees who are not hidden into their pop-up; from then on it follows the catalog.
+    void prepareManagers();
+    void managersChanged();
+    void showManager();
     // The default warehouse, where the type uses one.
     void setDefaults();
     // Takes over the warehouse with that id, 0 for none. False, and nothing chosen, when there is no such
@@ -79,6 +89,8 @@ public:
     void taxesChecked();
     void shipmentChanged();
     void discountChanged();
+    // Another row of the table was selected, or none.
+    void selectionChanged();
     // The labels of required inputs that are still missing, in form order.
     QStringList missingInputs() const;
 
@@ -94,12 +106,14 @@ private:
     std::vector<Required> required() const;
     void writeLabels();
     void bindFields();
+    std::shared_ptr<Product> droppedProduct(const QString& pasteboard) const;
     std::shared_ptr<Stock> stockWithID(qint64 stockID) const;
     void fillStockSelect(PopUpButton& select, qint64 heldID, const QString& heldName) const;
     bool takeStockFrom(qint64 stockID);
     bool takeStockTo(qint64 stockID);
 
     ProductDocumentViewController& m_controller;
+    bool m_managersPrepared = false;
 };
 
 } // namespace zelvor

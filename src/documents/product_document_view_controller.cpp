@@ -122,6 +122,9 @@ void ProductDocumentViewController::prepareData()
     calculateTotals();
     mainView.showDocument();
     observeCatalogs();
+    if (appDelegate.connector.isReadOnly())
+        appDelegate.workspace().setStateString(
+            localized("The project is open for reading only. Nothing can be changed."));
 }
 
 void ProductDocumentViewController::observeCatalogs()
@@ -135,6 +138,7 @@ void ProductDocumentViewController::observeCatalogs()
     observe(NotificationName::ContragentChangedNotification,
             &ProductDocumentViewController::updateContragents);
     observe(NotificationName::StockChangedNotification, &ProductDocumentViewController::updateStocks);
+    observe(NotificationName::ManagerChangedNotification, &ProductDocumentViewController::updateManagers);
 }
 
 ContragentSelectView& ProductDocumentViewController::contragentSelectView()
@@ -156,6 +160,13 @@ ProductViewController& ProductDocumentViewController::mainProductView()
         stockFromChanged();
     }
     return *m_mainProductView;
+}
+
+ProductFinder& ProductDocumentViewController::productFinder()
+{
+    if (!m_productFinder)
+        m_productFinder = std::make_unique<ProductFinder>(mainProductView().view);
+    return *m_productFinder;
 }
 
 void ProductDocumentViewController::initialColumnHide()
@@ -209,6 +220,7 @@ bool ProductDocumentViewController::setManagerFromID(qint64 managerID)
     if (!isEditable())
         return false;
     document->insertManager(visibleRecord<Manager>(appDelegate.connector, managerID));
+    mainView.showManager();
     return document->managerID == managerID;
 }
 
@@ -242,18 +254,23 @@ int ProductDocumentViewController::addProductFromID(qint64 productID)
     return product && !product->isHidden ? addProduct(product) : -1;
 }
 
+Decimal ProductDocumentViewController::rowPrice(const Product& product) const
+{
+    if (isSell())
+        return discounted(product.innerPriceCost);
+    return document->docType() == DocType::Return ? product.innerPriceCost : product.innerBaseCost;
+}
+
 std::shared_ptr<ProductDocumentRow>
 ProductDocumentViewController::newRow(const std::shared_ptr<Product>& product)
 {
     auto row = std::make_shared<ProductDocumentRow>();
     row->insertProduct(product);
     row->setInnerAmount(Decimal(1));
+    row->setInnerPriceCost(rowPrice(*product));
     if (isSell()) {
-        row->setInnerPriceCost(discounted(product->innerPriceCost));
         row->innerVATRate = product->innerVATRate.rounded(ProductDocumentRow::decimalHandler);
         row->innerGSTRate = product->innerGSTRate.rounded(ProductDocumentRow::decimalHandler);
-    } else if (document->docType() != DocType::Return) {
-        row->setInnerPriceCost(product->innerBaseCost);
     }
     row->docID = document->id;
     return row;
@@ -472,6 +489,21 @@ bool ProductDocumentViewController::deleteDoc()
     appDelegate.notifications.post(NotificationName::ProductDocChangedNotification, this);
     closeDoc();
     return true;
+}
+
+void ProductDocumentViewController::askDeleteDoc()
+{
+    if (!isEditable() || document->id == 0)
+        return;
+    const Alert question{localized("Delete this document?"),
+                         localized("The document and its rows are taken out of the project for good."),
+                         {localized("Delete"), localized("Cancel")},
+                         1};
+    const std::weak_ptr<const bool> alive = m_alive;
+    appDelegate.dialogs.ask(question, [this, alive](int answer) {
+        if (!alive.expired() && answer == firstButton)
+            deleteDoc();
+    });
 }
 
 void ProductDocumentViewController::closeDoc()

@@ -5,6 +5,7 @@
 #include "documents/document_view_controller.h"
 #include "documents/product_document.h"
 #include "documents/product_document_view.h"
+#include "documents/product_finder.h"
 
 #include <functional>
 #include <memory>
@@ -46,12 +47,17 @@ public:
     // is asked for.
     ContragentSelectView& contragentSelectView();
     ProductViewController& mainProductView();
+    // The products of that tree by what is typed of their names.
+    ProductFinder& productFinder();
     // Takes the tab away; set by whoever shows the form.
     std::function<void()> onClose;
 
     DocumentModel& documentModel() override { return *document; }
     QStringList missingInputs() const override { return mainView.missingInputs(); }
     void prepareData() override;
+
+    // Neither confirmed nor out of a project that is open for reading only.
+    bool isEditable() const { return !document->confirmed && !appDelegate.connector.isReadOnly(); }
 
     // What the document's type uses; a warehouse and a counterparty that it uses are also required.
     bool stockFromEnabled() const;
@@ -68,6 +74,8 @@ public:
     bool setContragentFromID(qint64 contragentID);
     bool setManagerFromID(qint64 managerID); // the responsible employee
 
+    // What a new row of the product costs.
+    Decimal rowPrice(const Product& product) const;
     // The row with the product, or none.
     std::shared_ptr<ProductDocumentRow> hasRowWithProduct(const Product& product) const;
     // A drop on the table: one more of a product that has a row, otherwise a new row at the type's price.
@@ -85,6 +93,8 @@ public:
 
     bool writeDoc();
     bool deleteDoc();
+    // The same, when the user says so: there is no way back.
+    void askDeleteDoc();
     void closeDoc();
     bool confirmDoc();
     void changeInterface();
@@ -93,11 +103,11 @@ public:
     void stockFromChanged();
     void updateContragents();
     void updateStocks();
+    void updateManagers() { mainView.managersChanged(); }
 
 private:
     struct Confirmation; // the steps by type, and what is told afterwards
     bool isSell() const;
-    bool isEditable() const { return !document->confirmed; }
     std::shared_ptr<ProductDocumentRow> newRow(const std::shared_ptr<Product>& product);
     Decimal discounted(const Decimal& price) const;
     bool hasStorableNumbers(); // shows an alert when not
@@ -124,6 +134,8 @@ private:
     std::unique_ptr<ContragentSelectView> m_contragentSelectView;
     std::unique_ptr<MeasurementViewController> m_measurementController;
     std::unique_ptr<ProductViewController> m_mainProductView;
+    std::unique_ptr<ProductFinder> m_productFinder;
+    std::shared_ptr<const bool> m_alive = std::make_shared<bool>(true); // for answers that come late
 };
 
 } // namespace zelvor

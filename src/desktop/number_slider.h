@@ -1,0 +1,18 @@
+#pragma once
+
+#include "core/outlets.h"
+
+#include <QtWidgets/QSlider>
+
+namespace zelvor {
+
+// A slider beside the field of the same whole number, from 0 to `maximum`. The number may lie beyond.
+class NumberSlider : public QSlider {
+    Q_OBJECT
+
+public:
+    NumberSlider(NumberField& number, qint64 maximum, const QString& accessibleName,
+                 QWidget* parent = nullptr);
+};
+
+} // namespace zelvor

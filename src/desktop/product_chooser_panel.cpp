@@ -1,0 +1,124 @@
+#include "desktop/product_chooser_panel.h"
+
+#include "catalogs/product_view_controller.h"
+#include "core/localized.h"
+#include "desktop/measures.h"
+#include "desktop/search_line.h"
+#include "desktop/tree_list.h"
+#include "documents/product_document_view_controller.h"
+
+#include <QtCore/QPointer>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zelvor {
+
+ProductChooserPanel::ProductChooserPanel(ProductDocumentViewController& form, QWidget* parent)
+    : QWidget(parent), m_form(form),
+      m_tree(new TreeList(form.mainProductView().view, form.appDelegate.calendar)),
+      m_search(new SearchLine(m_tree)), m_title(new QLabel)
+{
+    m_tree->setObjectName(u"mainProductView"_s);
+    m_tree->setAccessibleName(localized("Products that the document can take"));
+    m_tree->setDragDropMode(QAbstractItemView::DragOnly);
+    m_tree->setDefaultDropAction(Qt::CopyAction);
+    m_tree->setFrameShape(QFrame::StyledPanel);
+    m_tree->rowAction = [this](const OutlineView::Node& node) {
+        return chooseNode(std::dynamic_pointer_cast<ProductModel>(node));
+    };
+    auto* const rows = new QVBoxLayout(this);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(measures::labelGap);
+    rows->addWidget(makeTitle());
+    rows->addWidget(m_search);
+    rows->addWidget(m_tree, 1);
+    connect(m_search, &QLineEdit::textChanged, m_tree, &TreeList::setFilter);
+    connect(m_tree->outlineModel(), &QAbstractItemModel::modelReset, this, [this] { arrangeColumns(); });
+}
+
+QWidget* ProductChooserPanel::makeTitle()
+{
+    Label& outlet = m_form.mainProductView().stockNameLabelForProducts;
+    m_title->setObjectName(outlet.name());
+    m_title->setTextFormat(Qt::PlainText);
+    m_title->setMinimumWidth(1);
+    QFont bold = font();
+    bold.setBold(true);
+    m_title->setFont(bold);
+    const QPointer<QLabel> title(m_title);
+    const auto show = [title, &outlet] {
+        if (title) // where goods come in no warehouse is named
+            title->setText(outlet.text().isEmpty() ? localized("All Products") : outlet.text());
+    };
+    outlet.onChange(show);
+    show();
+    auto* const line = new QWidget;
+    auto* const layout = new QHBoxLayout(line);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(measures::rowGap);
+    layout->addWidget(m_title, 1);
+    return line;
+}
+
+bool ProductChooserPanel::chooseNode(const std::shared_ptr<ProductModel>& node)
+{
+    if (!node)
+        return true;
+    if (!node->isGroup()) {
+        Q_EMIT productChosen(std::static_pointer_cast<Product>(node));
+        return true;
+    }
+    const QModelIndex row = m_tree->currentIndex().siblingAtColumn(0);
+    m_tree->setExpanded(row, !m_tree->isExpanded(row));
+    return true;
+}
+
+void ProductChooserPanel::showEvent(QShowEvent* event)
+{
+    m_form.mainProductView().view.setVisible(true);
+    QWidget::showEvent(event);
+    arrangeColumns();
+}
+
+void ProductChooserPanel::hideEvent(QHideEvent* event)
+{
+    m_form.mainProductView().view.setVisible(false);
+    QWidget::hideEvent(event);
+}
+
+void ProductChooserPanel::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    arrangeColumns();
+}
+
+// In front the three columns that one sells and buys by, as wide as the panel together; the others to their
+// right, for those who roll there.
+void ProductChooserPanel::arrangeColumns()
+{
+    const OutlineViewModel& model = *m_tree->outlineModel();
+    QHeaderView& header = *m_tree->header();
+    const bool goodsLeave = m_form.stockFromEnabled();
+    const bool costs = !goodsLeave && m_form.document->docType() != DocType::SellIntangibles &&
+                       m_form.document->docType() != DocType::Return;
+    const QString price = costs ? u"baseCost"_s : u"priceCost"_s;
+    const int name = model.columnWithIdentifier(u"name"_s);
+    int taken = 0;
+    int place = header.visualIndex(name) + 1;
+    for (const QString& identifier : {goodsLeave ? u"amount"_s : u"measurementName"_s, price}) {
+        const int column = model.columnWithIdentifier(identifier);
+        header.moveSection(header.visualIndex(column), place++);
+        taken += header.sectionSize(column);
+    }
+    header.setSectionResizeMode(name, QHeaderView::Interactive);
+    const int narrowest = fontMetrics().averageCharWidth() * 18;
+    header.resizeSection(name, std::max(narrowest, m_tree->viewport()->width() - taken));
+}
+
+} // namespace zelvor

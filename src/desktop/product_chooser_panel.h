@@ -1,0 +1,47 @@
+#pragma once
+
+#include "catalogs/product.h"
+
+#include <QtWidgets/QWidget>
+
+#include <memory>
+
+class QLabel;
+
+namespace zelvor {
+
+class ProductDocumentViewController;
+class SearchLine;
+class TreeList;
+
+// The product tree beside a document: what the document can take, to be dragged, or taken by a double click
+// or Enter.
+class ProductChooserPanel : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ProductChooserPanel(ProductDocumentViewController& form, QWidget* parent = nullptr);
+
+    TreeList* tree() const { return m_tree; }
+    SearchLine* searchLine() const { return m_search; }
+
+Q_SIGNALS:
+    void productChosen(const std::shared_ptr<Product>& product);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QWidget* makeTitle();
+    void arrangeColumns();
+    bool chooseNode(const std::shared_ptr<ProductModel>& node);
+
+    ProductDocumentViewController& m_form;
+    TreeList* m_tree;
+    SearchLine* m_search;
+    QLabel* m_title;
+};
+
+} // namespace zelvor

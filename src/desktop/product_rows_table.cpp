@@ -1,0 +1,184 @@
+#include "desktop/product_rows_table.h"
+
+#include "core/localized.h"
+#include "desktop/list_columns.h"
+#include "desktop/measures.h"
+#include "desktop/number_cell_delegate.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QScrollBar>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zelvor {
+
+ProductRowsTable::ProductRowsTable(TableView& view, const Calendar& calendar, QWidget* parent)
+    : TableList(view, calendar, parent)
+{
+    setObjectName(u"documentRows"_s);
+    setAccessibleName(localized("Rows of the document"));
+    auto* const delegate = new NumberCellDelegate(this);
+    setItemDelegate(delegate);
+    connect(delegate, &NumberCellDelegate::finished, this, &ProductRowsTable::goOn);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    rowAction = [this](int) {
+        editCurrent();
+        return true;
+    };
+    connect(tableModel(), &QAbstractItemModel::modelReset, this, [this] {
+        fitNumbers();
+        updateGeometry();
+    });
+    fitNumbers();
+}
+
+bool ProductRowsTable::isEditable(int column) const
+{
+    const auto& columns = tableModel()->columns();
+    return column >= 0 && column < static_cast<int>(columns.size()) &&
+           columns[static_cast<std::size_t>(column)].editable;
+}
+
+void ProductRowsTable::editCell(int viewRow, const QString& identifier)
+{
+    const int shown = tableModel()->shownRow(viewRow);
+    const int column = tableModel()->columnWithIdentifier(identifier);
+    if (shown < 0 || !isEditable(column))
+        return;
+    setFocus(Qt::OtherFocusReason);
+    const QModelIndex cell = tableModel()->index(shown, column);
+    m_editedColumn = identifier;
+    setCurrentIndex(cell);
+    scrollTo(cell);
+    edit(cell);
+}
+
+// The cell under the cursor where it takes a number, else the amount of its row.
+void ProductRowsTable::editCurrent()
+{
+    const auto& columns = tableModel()->columns();
+    const int column = currentIndex().column();
+    if (!isEditable(column)) {
+        editCell(currentRow(), u"amount"_s);
+        return;
+    }
+    const ViewColumn& current = columns[static_cast<std::size_t>(column)];
+    if (current.kind == CellKind::Amount)
+        editCell(currentRow(), current.identifier);
+}
+
+// Behind a number that was stored.
+void ProductRowsTable::goOn(int key)
+{
+    const int row = shownView().selectedRow();
+    const QString here = m_editedColumn;
+    switch (key) {
+    case Qt::Key_Up:
+        editCell(std::max(row - 1, 0), here);
+        break;
+    case Qt::Key_Down:
+        if (row + 1 < shownView().numberOfRows())
+            editCell(row + 1, here);
+        else
+            Q_EMIT leftDownwards();
+        break;
+    case Qt::Key_Backtab:
+        editCell(row, u"amount"_s);
+        break;
+    default:
+        if (here == "amount"_L1)
+            editCell(row, u"price"_s);
+        else
+            Q_EMIT leftDownwards();
+    }
+}
+
+bool ProductRowsTable::finishEditing()
+{
+    if (!isEditing())
+        return true;
+    auto* const editor = viewport()->findChild<QLineEdit*>(u"cellEditor"_s);
+    if (!editor)
+        return true;
+    if (!NumberCellDelegate::isNumber(editor->text())) {
+        editor->setFocus(Qt::OtherFocusReason);
+        return false;
+    }
+    commitData(editor);
+    closeEditor(editor, QAbstractItemDelegate::NoHint);
+    return true;
+}
+
+int ProductRowsTable::contentHeight() const
+{
+    const QScrollBar* const bar = horizontalScrollBar();
+    const int barHeight = bar->maximum() > 0 ? bar->sizeHint().height() : 0;
+    return horizontalHeader()->sizeHint().height() + verticalHeader()->length() + barHeight;
+}
+
+void ProductRowsTable::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Delete)) {
+        Q_EMIT deleteRequested();
+        return;
+    }
+    const bool plain = !(event->modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier));
+    const bool last = currentRow() == shownView().numberOfRows() - 1;
+    if (plain && event->key() == Qt::Key_Down && last) {
+        Q_EMIT leftDownwards();
+        return;
+    }
+    const QString text = plain ? event->text() : QString();
+    if (!text.isEmpty() && text.front().isLetter()) {
+        Q_EMIT nameTyped(text);
+        return;
+    }
+    if (!text.isEmpty() && text.front().isDigit() && currentRow() >= 0) {
+        editCurrent();
+        if (auto* const editor = viewport()->findChild<QLineEdit*>(u"cellEditor"_s))
+            QCoreApplication::sendEvent(editor, event);
+        return;
+    }
+    TableList::keyPressEvent(event);
+}
+
+void ProductRowsTable::resizeEvent(QResizeEvent* event)
+{
+    TableList::resizeEvent(event);
+    fitNumbers();
+}
+
+// The numbers take what they need and never shrink while one writes; the name has the rest.
+void ProductRowsTable::fitNumbers()
+{
+    QHeaderView& header = *horizontalHeader();
+    const auto& columns = tableModel()->columns();
+    const QFontMetrics metrics = fontMetrics();
+    const std::vector<QString> shown = shownIdentifiers(columns);
+    const bool anew = shown != m_fittedColumns;
+    m_fittedColumns = shown;
+    for (int i = 0; i < static_cast<int>(columns.size()); ++i) {
+        const ViewColumn& column = columns[static_cast<std::size_t>(i)];
+        const bool name = column.identifier == "name"_L1;
+        header.setSectionResizeMode(i, name ? QHeaderView::Stretch : QHeaderView::Interactive);
+        if (column.hidden || name)
+            continue;
+        int width = header.sectionSizeHint(i);
+        if (column.kind == CellKind::Amount)
+            width = std::max(width, metrics.horizontalAdvance(u"00 000.00"_s) + 2 * measures::rowPadding);
+        const int rows = std::min(tableModel()->rowCount(), 200);
+        for (int row = 0; row < rows; ++row) {
+            const QString text = tableModel()->index(row, i).data(Qt::DisplayRole).toString();
+            width = std::max(width, metrics.horizontalAdvance(text) + 2 * measures::rowPadding);
+        }
+        if (anew || width > header.sectionSize(i))
+            header.resizeSection(i, width);
+    }
+}
+
+} // namespace zelvor

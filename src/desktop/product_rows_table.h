@@ -1,0 +1,44 @@
+#pragma once
+
+#include "desktop/table_list.h"
+
+namespace zelvor {
+
+// The rows of a product document. Enter in the amount goes to the price, Enter in the price leaves the table
+// for the next product; typing a figure on a row edits its amount.
+class ProductRowsTable : public TableList {
+    Q_OBJECT
+
+public:
+    ProductRowsTable(TableView& view, const Calendar& calendar, QWidget* parent = nullptr);
+
+    // Puts the cursor into a cell of that view row; with the editor open.
+    void editCell(int viewRow, const QString& identifier);
+    bool isEditing() const { return state() == EditingState; }
+    // Stores what is being typed in a cell. False when that is no number: then the cursor stays there.
+    bool finishEditing();
+    // As high as the header and all rows: there is no empty ground below the last one.
+    int contentHeight() const;
+
+Q_SIGNALS:
+    // The row under the cursor is entered, or the cursor was moved down beyond the last one.
+    void leftDownwards();
+    void deleteRequested();
+    // Letters were typed on a row: the beginning of a product's name.
+    void nameTyped(const QString& text);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void editCurrent();
+    void goOn(int key);
+    void fitNumbers();
+    bool isEditable(int column) const;
+
+    std::vector<QString> m_fittedColumns;
+    QString m_editedColumn; // the model is read anew behind every number
+};
+
+} // namespace zelvor
