@@ -115,9 +115,9 @@ bool ContragentChooser::searchKey(int key)
     case Qt::Key_Down:
     case Qt::Key_Up: {
         const QModelIndex current = m_tree->currentIndex();
-        const QModelIndex next = !current.isValid()       ? m_tree->outlineModel()->index(0, 0)
+        const QModelIndex next = !current.isValid()    ? m_tree->outlineModel()->index(0, 0)
                                  : key == Qt::Key_Down ? m_tree->indexBelow(current)
-                                                         : m_tree->indexAbove(current);
+                                                       : m_tree->indexAbove(current);
         if (next.isValid())
             m_tree->selectNode(m_tree->outlineModel()->node(next));
         return true;

@@ -43,8 +43,11 @@ Page* makePage(const TabPage& page, MainViewController& workspace, QWidget* pare
 {
     if (!page.controller)
         return makePermanentPage(page.view, workspace, parent);
-    if (auto* const form = dynamic_cast<ProductDocumentViewController*>(page.controller.get()))
-        return new ProductDocumentPage(*form, parent);
+    if (auto* const form = dynamic_cast<ProductDocumentViewController*>(page.controller.get())) {
+        auto* const made = new ProductDocumentPage(*form, parent);
+        made->onClose = [&workspace, form] { workspace.closeTab(form->mainView.index()); };
+        return made;
+    }
     if (auto* const journal = dynamic_cast<DocumentJournalViewController*>(page.controller.get()))
         return new JournalPage(*journal, parent);
     if (auto* const report = dynamic_cast<PeriodSellReportViewController*>(page.controller.get()))

@@ -2,8 +2,12 @@
 
 #include "catalogs/product_view_controller.h"
 #include "core/localized.h"
+#include "desktop/measurement_popover.h"
 #include "desktop/measures.h"
+#include "desktop/product_group_popover.h"
+#include "desktop/product_popover.h"
 #include "desktop/search_line.h"
+#include "desktop/tool_button.h"
 #include "desktop/tree_list.h"
 #include "documents/product_document_view_controller.h"
 
@@ -38,6 +42,7 @@ ProductChooserPanel::ProductChooserPanel(ProductDocumentViewController& form, QW
     rows->addWidget(makeTitle());
     rows->addWidget(m_search);
     rows->addWidget(m_tree, 1);
+    makePopovers();
     connect(m_search, &QLineEdit::textChanged, m_tree, &TreeList::setFilter);
     connect(m_tree->outlineModel(), &QAbstractItemModel::modelReset, this, [this] { arrangeColumns(); });
 }
@@ -63,7 +68,22 @@ QWidget* ProductChooserPanel::makeTitle()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(measures::rowGap);
     layout->addWidget(m_title, 1);
+    m_add = new ToolButton(u"add"_s, localized("Add"), localized("Add to the catalog"), line);
+    bindAddMenu(m_form.mainProductView().addProductButton, m_add);
+    layout->addWidget(m_add);
     return line;
+}
+
+// The forms of what is added here; the units that they choose from are this document's own.
+void ProductChooserPanel::makePopovers()
+{
+    ProductViewController& products = m_form.mainProductView();
+    auto* const product = new ProductPopover(products, this);
+    auto* const group = new ProductGroupPopover(products, this);
+    new MeasurementPopover(*products.measurementController, this);
+    for (CatalogPopover* const popover :
+         {static_cast<CatalogPopover*>(product), static_cast<CatalogPopover*>(group)})
+        popover->setRowAnchor([this] { return QRect(m_add->mapToGlobal(QPoint()), m_add->size()); });
 }
 
 bool ProductChooserPanel::chooseNode(const std::shared_ptr<ProductModel>& node)
@@ -109,11 +129,13 @@ void ProductChooserPanel::arrangeColumns()
                        m_form.document->docType() != DocType::Return;
     const QString price = costs ? u"baseCost"_s : u"priceCost"_s;
     const int name = model.columnWithIdentifier(u"name"_s);
+    const int numberWidth = fontMetrics().horizontalAdvance(u"00 000.00"_s) + 2 * measures::rowPadding;
     int taken = 0;
     int place = header.visualIndex(name) + 1;
     for (const QString& identifier : {goodsLeave ? u"amount"_s : u"measurementName"_s, price}) {
         const int column = model.columnWithIdentifier(identifier);
         header.moveSection(header.visualIndex(column), place++);
+        header.resizeSection(column, numberWidth);
         taken += header.sectionSize(column);
     }
     header.setSectionResizeMode(name, QHeaderView::Interactive);

@@ -12,6 +12,7 @@ namespace zelvor {
 
 class ProductDocumentViewController;
 class SearchLine;
+class ToolButton;
 class TreeList;
 
 // The product tree beside a document: what the document can take, to be dragged, or taken by a double click
@@ -35,6 +36,7 @@ protected:
 
 private:
     QWidget* makeTitle();
+    void makePopovers();
     void arrangeColumns();
     bool chooseNode(const std::shared_ptr<ProductModel>& node);
 
@@ -42,6 +44,7 @@ private:
     TreeList* m_tree;
     SearchLine* m_search;
     QLabel* m_title;
+    ToolButton* m_add = nullptr;
 };
 
 } // namespace zelvor

@@ -67,7 +67,8 @@ void ProductEntryLine::makeList()
     m_list->verticalHeader()->setDefaultSectionSize(listRowHeight(fontMetrics()));
     m_list->horizontalHeader()->setSectionResizeMode(ProductMatchesModel::Name, QHeaderView::Stretch);
     m_list->setColumnHidden(ProductMatchesModel::Stock, !m_form.stockFromEnabled());
-    connect(m_list, &QAbstractItemView::clicked, this, [this](const QModelIndex& index) { take(index.row()); });
+    connect(m_list, &QAbstractItemView::clicked, this,
+            [this](const QModelIndex& index) { take(index.row()); });
 }
 
 void ProductEntryLine::showMatches(const QString& typed)
@@ -100,6 +101,13 @@ void ProductEntryLine::placeList()
     const bool below = corner.y() + this->height() + height <= window()->height();
     const int width = std::clamp(this->width(), narrowest, widest);
     m_list->setGeometry(corner.x(), below ? corner.y() + this->height() : corner.y() - height, width, height);
+}
+
+// A row came above: the line moved down.
+void ProductEntryLine::followLine()
+{
+    if (m_list && m_list->isVisible())
+        placeList();
 }
 
 void ProductEntryLine::hideList()
@@ -167,13 +175,13 @@ void ProductEntryLine::focusOutEvent(QFocusEvent* event)
 void ProductEntryLine::resizeEvent(QResizeEvent* event)
 {
     QLineEdit::resizeEvent(event);
-    hideList();
+    followLine();
 }
 
 void ProductEntryLine::moveEvent(QMoveEvent* event)
 {
     QLineEdit::moveEvent(event);
-    hideList();
+    followLine();
 }
 
 } // namespace zelvor

@@ -44,6 +44,7 @@ private:
     void take(int row);
     void paintUnknown(bool unknown);
     void hideList();
+    void followLine();
 
     ProductDocumentViewController& m_form;
     ProductMatchesModel* m_model;

@@ -93,6 +93,7 @@ void ProductRowsPanel::setPaper(bool paper)
     m_paper = paper;
     m_entry->setVisible(!paper);
     setAcceptDrops(!paper);
+    setReceiving(false);
     rowsChanged();
 }
 
@@ -122,7 +123,10 @@ void ProductRowsPanel::paintGround()
 
 void ProductRowsPanel::setReceiving(bool receiving)
 {
-    setFrameShape(receiving ? QFrame::Box : QFrame::StyledPanel);
+    if (receiving)
+        setFrameShape(QFrame::Box);
+    else
+        setFrameShape(m_paper ? QFrame::NoFrame : QFrame::StyledPanel);
     setLineWidth(receiving ? 2 : 1);
 }
 

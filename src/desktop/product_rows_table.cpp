@@ -160,8 +160,10 @@ void ProductRowsTable::fitNumbers()
     const auto& columns = tableModel()->columns();
     const QFontMetrics metrics = fontMetrics();
     const std::vector<QString> shown = shownIdentifiers(columns);
-    const bool anew = shown != m_fittedColumns;
+    const bool firstRows = !m_fittedWithRows && tableModel()->rowCount() > 0;
+    const bool anew = shown != m_fittedColumns || firstRows;
     m_fittedColumns = shown;
+    m_fittedWithRows = tableModel()->rowCount() > 0;
     for (int i = 0; i < static_cast<int>(columns.size()); ++i) {
         const ViewColumn& column = columns[static_cast<std::size_t>(i)];
         const bool name = column.identifier == "name"_L1;

@@ -38,6 +38,7 @@ private:
     bool isEditable(int column) const;
 
     std::vector<QString> m_fittedColumns;
+    bool m_fittedWithRows = false;
     QString m_editedColumn; // the model is read anew behind every number
 };
 
