@@ -13,7 +13,8 @@ fi
 zelvor_packages=(
     cmake ninja-build g++
     qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libsqlite3-dev
-    fonts-urw-base35 fonts-liberation
+    qt6-wayland qt6-translations-l10n
+    fonts-dejavu-core fonts-urw-base35 fonts-liberation
     libgtest-dev libbenchmark-dev
     python3 tzdata
     desktop-file-utils appstream shared-mime-info libglib2.0-bin groff-base
