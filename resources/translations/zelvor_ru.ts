@@ -62,6 +62,14 @@
         <translation>(Товары) </translation>
     </message>
     <message>
+        <source>(not included)</source>
+        <translation>(не включая)</translation>
+    </message>
+    <message>
+        <source>A deleted document cannot be brought back.</source>
+        <translation>Удалённый документ вернуть нельзя.</translation>
+    </message>
+    <message>
         <source>A fixed asset is added by a document!</source>
         <translation>Основное средство добавляют документом!</translation>
     </message>
@@ -88,6 +96,10 @@
         <translation>Ставка налога не может быть меньше 0.</translation>
     </message>
     <message>
+        <source>About Zelvor</source>
+        <translation>О программе</translation>
+    </message>
+    <message>
         <source>Account From</source>
         <translation>Со счёта</translation>
     </message>
@@ -106,6 +118,14 @@
     <message>
         <source>Account Types Catalog</source>
         <translation>Справочник видов счетов</translation>
+    </message>
+    <message>
+        <source>Account holder</source>
+        <translation>Владелец счёта</translation>
+    </message>
+    <message>
+        <source>Account number</source>
+        <translation>Номер счёта</translation>
     </message>
     <message>
         <source>Accounts</source>
@@ -244,6 +264,10 @@
         <translation>Все расходы</translation>
     </message>
     <message>
+        <source>All again</source>
+        <translation>Снова все</translation>
+    </message>
+    <message>
         <source>All currencies are up to date</source>
         <translation>Курсы всех валют актуальны</translation>
     </message>
@@ -254,6 +278,18 @@
     <message>
         <source>Amount</source>
         <translation>Кол-во</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Оформление</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Применить</translation>
+    </message>
+    <message>
+        <source>As the System</source>
+        <translation>Как в системе</translation>
     </message>
     <message>
         <source>Asset Added</source>
@@ -288,6 +324,22 @@
         <translation>Баланс</translation>
     </message>
     <message>
+        <source>Balance on</source>
+        <translation>Баланс на</translation>
+    </message>
+    <message>
+        <source>Bank</source>
+        <translation>Банк</translation>
+    </message>
+    <message>
+        <source>Bank address</source>
+        <translation>Адрес банка</translation>
+    </message>
+    <message>
+        <source>Bank name</source>
+        <translation>Название банка</translation>
+    </message>
+    <message>
         <source>Base Cost</source>
         <translation>Себестоимость</translation>
     </message>
@@ -304,12 +356,20 @@
         <translation>Входит в</translation>
     </message>
     <message>
+        <source>Book-keeping and trade accounting for small businesses</source>
+        <translation>Бухгалтерский и торговый учёт для малого бизнеса</translation>
+    </message>
+    <message>
         <source>British Pound</source>
         <translation>Британский фунт</translation>
     </message>
     <message>
         <source>Busy</source>
         <translation>Подождите</translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation>По</translation>
     </message>
     <message>
         <source>Can't check last report period!
@@ -376,8 +436,28 @@
         <translation>Справочники</translation>
     </message>
     <message>
+        <source>Changed: press "Refresh" to see it</source>
+        <translation>Изменено: нажмите «Обновить»</translation>
+    </message>
+    <message>
         <source>Chinese Yuan</source>
         <translation>Китайский юань</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <translation>Выбрать</translation>
+    </message>
+    <message>
+        <source>Choose the logo file</source>
+        <translation>Выбрать файл логотипа</translation>
+    </message>
+    <message>
+        <source>Choose the period and press "Refresh".</source>
+        <translation>Выберите период и нажмите «Обновить».</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Выбрать…</translation>
     </message>
     <message>
         <source>City</source>
@@ -388,12 +468,68 @@
         <translation>Закрыть</translation>
     </message>
     <message>
+        <source>Close Project</source>
+        <translation>Закрыть проект</translation>
+    </message>
+    <message>
+        <source>Close Tab</source>
+        <translation>Закрыть вкладку</translation>
+    </message>
+    <message>
         <source>Code</source>
         <translation>Код</translation>
     </message>
     <message>
+        <source>Collapse All</source>
+        <translation>Свернуть всё</translation>
+    </message>
+    <message>
+        <source>Collapse Left Pane</source>
+        <translation>Свернуть левую панель</translation>
+    </message>
+    <message>
+        <source>Collapse or show the menu (F9)</source>
+        <translation>Свернуть или показать меню (F9)</translation>
+    </message>
+    <message>
+        <source>Collapse the menu</source>
+        <translation>Свернуть меню</translation>
+    </message>
+    <message>
         <source>Comment</source>
         <translation>Комментарий</translation>
+    </message>
+    <message>
+        <source>Company</source>
+        <translation>Компания</translation>
+    </message>
+    <message>
+        <source>Company address</source>
+        <translation>Адрес компании</translation>
+    </message>
+    <message>
+        <source>Company city</source>
+        <translation>Город компании</translation>
+    </message>
+    <message>
+        <source>Company e-mail</source>
+        <translation>Эл. почта компании</translation>
+    </message>
+    <message>
+        <source>Company name</source>
+        <translation>Название компании</translation>
+    </message>
+    <message>
+        <source>Company phone</source>
+        <translation>Телефон компании</translation>
+    </message>
+    <message>
+        <source>Company web site</source>
+        <translation>Сайт компании</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Провести</translation>
     </message>
     <message>
         <source>Confirmed</source>
@@ -414,6 +550,10 @@
     <message>
         <source>Context</source>
         <translation>Действия</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копировать</translation>
     </message>
     <message>
         <source>Correction</source>
@@ -524,8 +664,16 @@
         <translation>Покупатели и поставщики</translation>
     </message>
     <message>
+        <source>Cut</source>
+        <translation>Вырезать</translation>
+    </message>
+    <message>
         <source>Czech Koruna</source>
         <translation>Чешская крона</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Тёмное</translation>
     </message>
     <message>
         <source>Date</source>
@@ -544,6 +692,10 @@
         <translation>Основной</translation>
     </message>
     <message>
+        <source>Default currency</source>
+        <translation>Основная валюта</translation>
+    </message>
+    <message>
         <source>Default currency doesn't set</source>
         <translation>Основная валюта не выбрана</translation>
     </message>
@@ -554,6 +706,14 @@
     <message>
         <source>Delete</source>
         <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Delete Document</source>
+        <translation>Удалить документ</translation>
+    </message>
+    <message>
+        <source>Delete the document?</source>
+        <translation>Удалить документ?</translation>
     </message>
     <message>
         <source>Description</source>
@@ -572,8 +732,16 @@
         <translation>Документ</translation>
     </message>
     <message>
+        <source>Documents</source>
+        <translation>Документы</translation>
+    </message>
+    <message>
         <source>Documents Journal</source>
         <translation>Журнал документов</translation>
+    </message>
+    <message>
+        <source>Documents and reports</source>
+        <translation>Документы и отчёты</translation>
     </message>
     <message>
         <source>Don't Save</source>
@@ -589,7 +757,7 @@
     </message>
     <message>
         <source>Edit</source>
-        <translation>Изменить</translation>
+        <translation>Правка</translation>
     </message>
     <message>
         <source>Edit Account</source>
@@ -634,6 +802,10 @@
     <message>
         <source>Edit Product Group</source>
         <translation>Правка группы товаров</translation>
+    </message>
+    <message>
+        <source>Edit Row</source>
+        <translation>Изменить строку</translation>
     </message>
     <message>
         <source>Edit Unit</source>
@@ -694,6 +866,18 @@
     <message>
         <source>Euro</source>
         <translation>Евро</translation>
+    </message>
+    <message>
+        <source>Everything else is in the menu at the left, or a Ctrl+K away.</source>
+        <translation>Всё остальное — в меню слева или по Ctrl+K.</translation>
+    </message>
+    <message>
+        <source>Expand All</source>
+        <translation>Развернуть всё</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Экспорт…</translation>
     </message>
     <message>
         <source>Failed to add doc sum to account balance.
@@ -758,6 +942,26 @@
         <translation>Заполните поле «Наименование»!</translation>
     </message>
     <message>
+        <source>File</source>
+        <translation>Файл</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Найти</translation>
+    </message>
+    <message>
+        <source>Find Anything</source>
+        <translation>Найти всё</translation>
+    </message>
+    <message>
+        <source>Find anything</source>
+        <translation>Найти всё</translation>
+    </message>
+    <message>
+        <source>Find anything   Ctrl+K</source>
+        <translation>Найти всё   Ctrl+K</translation>
+    </message>
+    <message>
         <source>Fixed Asset</source>
         <translation>Основное средство</translation>
     </message>
@@ -782,12 +986,28 @@
         <translation>По неизвестной причине месяц закрыть не удалось. Попробуйте позже.</translation>
     </message>
     <message>
+        <source>Forget</source>
+        <translation>Забыть</translation>
+    </message>
+    <message>
+        <source>Found</source>
+        <translation>Найдено</translation>
+    </message>
+    <message>
         <source>From</source>
         <translation>С</translation>
     </message>
     <message>
         <source>From Warehouse</source>
         <translation>Со склада</translation>
+    </message>
+    <message>
+        <source>From the first day of the report period to the end of today</source>
+        <translation>С первого дня отчётного периода до конца сегодняшнего дня</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>Во весь экран</translation>
     </message>
     <message>
         <source>Function</source>
@@ -810,8 +1030,16 @@
         <translation>Справочник должностей</translation>
     </message>
     <message>
+        <source>GST rate, %</source>
+        <translation>Ставка GST, %</translation>
+    </message>
+    <message>
         <source>GST, %</source>
         <translation>GST, %</translation>
+    </message>
+    <message>
+        <source>Go to Tab</source>
+        <translation>Перейти на вкладку</translation>
     </message>
     <message>
         <source>Group</source>
@@ -830,8 +1058,24 @@
         <translation>Не хватает денег на счёте «</translation>
     </message>
     <message>
+        <source>Help</source>
+        <translation>Справка</translation>
+    </message>
+    <message>
         <source>Hidden</source>
         <translation>Скрыт</translation>
+    </message>
+    <message>
+        <source>Hides the products; their customers keep the sums</source>
+        <translation>Скрыть товары; суммы остаются у покупателей</translation>
+    </message>
+    <message>
+        <source>Hides the products; their groups keep the sums</source>
+        <translation>Скрыть товары; суммы остаются у групп</translation>
+    </message>
+    <message>
+        <source>IBAN</source>
+        <translation>IBAN</translation>
     </message>
     <message>
         <source>Intangible</source>
@@ -844,6 +1088,26 @@
     <message>
         <source>Japanese Yen</source>
         <translation>Японская иена</translation>
+    </message>
+    <message>
+        <source>Journals</source>
+        <translation>Журналы</translation>
+    </message>
+    <message>
+        <source>Known projects</source>
+        <translation>Известные проекты</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Язык</translation>
+    </message>
+    <message>
+        <source>Language of the System</source>
+        <translation>Язык системы</translation>
+    </message>
+    <message>
+        <source>Last closed month</source>
+        <translation>Последний закрытый месяц</translation>
     </message>
     <message>
         <source>Last month doesn't closed. Would you like to close it now?
@@ -864,6 +1128,14 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
 </translation>
     </message>
     <message>
+        <source>Leaves this project for the list of all projects.</source>
+        <translation>Закрывает этот проект и показывает список всех проектов.</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Светлое</translation>
+    </message>
+    <message>
         <source>Lock of the Balance</source>
         <translation>Замок баланса</translation>
     </message>
@@ -880,12 +1152,32 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
         <translation>Закрыто: число ведут документы. Нажмите, чтобы изменить вручную.</translation>
     </message>
     <message>
+        <source>Logo</source>
+        <translation>Логотип</translation>
+    </message>
+    <message>
+        <source>Longest deferment, days</source>
+        <translation>Наибольшая отсрочка, дней</translation>
+    </message>
+    <message>
         <source>Manager</source>
         <translation>Менеджер</translation>
     </message>
     <message>
         <source>Managers</source>
         <translation>Менеджеры</translation>
+    </message>
+    <message>
+        <source>Managers without customers</source>
+        <translation>Менеджеры без покупателей</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Меню</translation>
+    </message>
+    <message>
+        <source>Missing: </source>
+        <translation>Не хватает: </translation>
     </message>
     <message>
         <source>Money</source>
@@ -916,6 +1208,10 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
         <translation>Выдано сотруднику</translation>
     </message>
     <message>
+        <source>Month</source>
+        <translation>Месяц</translation>
+    </message>
+    <message>
         <source>Name</source>
         <translation>Наименование</translation>
     </message>
@@ -940,12 +1236,32 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
         <translation>Новая запись</translation>
     </message>
     <message>
+        <source>New Project…</source>
+        <translation>Новый проект…</translation>
+    </message>
+    <message>
+        <source>New Purchase</source>
+        <translation>Новая покупка</translation>
+    </message>
+    <message>
+        <source>New Sale</source>
+        <translation>Новая продажа</translation>
+    </message>
+    <message>
+        <source>New…</source>
+        <translation>Создать…</translation>
+    </message>
+    <message>
+        <source>Next Tab</source>
+        <translation>Следующая вкладка</translation>
+    </message>
+    <message>
         <source>No counterparties yet. Add the first customer or supplier.</source>
         <translation>Контрагентов пока нет. Добавьте первого покупателя или поставщика.</translation>
     </message>
     <message>
-        <source>No documents in this period.</source>
-        <translation>За этот период документов нет.</translation>
+        <source>No documents in this period. Choose other dates, or press "This period".</source>
+        <translation>За этот период документов нет. Выберите другие даты или нажмите «Текущий период».</translation>
     </message>
     <message>
         <source>No manager</source>
@@ -956,12 +1272,18 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
         <translation>Товаров пока нет. Добавьте первый или загрузите список.</translation>
     </message>
     <message>
-        <source>No rows yet.</source>
-        <translation>Строк пока нет.</translation>
+        <source>No projects yet.
+
+Press New… to start the books of your business,
+or Open Existing… for a project file that you have.</source>
+        <translation>Проектов пока нет.
+
+Нажмите «Создать…», чтобы начать учёт,
+или «Открыть…», если файл проекта уже есть.</translation>
     </message>
     <message>
-        <source>No sales in this period.</source>
-        <translation>За этот период продаж нет.</translation>
+        <source>No rows yet.</source>
+        <translation>Строк пока нет.</translation>
     </message>
     <message>
         <source>No units yet. Add the first one.</source>
@@ -976,8 +1298,24 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
         <translation>Нет</translation>
     </message>
     <message>
+        <source>None yet</source>
+        <translation>Пока нет</translation>
+    </message>
+    <message>
+        <source>Nothing of that name.</source>
+        <translation>Ничего с таким названием.</translation>
+    </message>
+    <message>
+        <source>Nothing ticked counts as all.</source>
+        <translation>Если ничего не отмечено, берутся все.</translation>
+    </message>
+    <message>
         <source>Nothing to show yet.</source>
         <translation>Показывать пока нечего.</translation>
+    </message>
+    <message>
+        <source>Nothing was sold in this period.</source>
+        <translation>За этот период ничего не продано.</translation>
     </message>
     <message>
         <source>Number</source>
@@ -988,20 +1326,52 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
         <translation>ОК</translation>
     </message>
     <message>
+        <source>Only customers</source>
+        <translation>Только покупатели</translation>
+    </message>
+    <message>
+        <source>Only groups</source>
+        <translation>Только группы</translation>
+    </message>
+    <message>
+        <source>Only product groups</source>
+        <translation>Только группы товаров</translation>
+    </message>
+    <message>
         <source>Open</source>
         <translation>Открыть</translation>
+    </message>
+    <message>
+        <source>Open Document</source>
+        <translation>Открыть документ</translation>
     </message>
     <message>
         <source>Open Existing Project</source>
         <translation>Открыть проект</translation>
     </message>
     <message>
+        <source>Open Existing…</source>
+        <translation>Открыть…</translation>
+    </message>
+    <message>
         <source>Open Logo File</source>
         <translation>Выбрать файл логотипа</translation>
     </message>
     <message>
+        <source>Open Project…</source>
+        <translation>Открыть проект…</translation>
+    </message>
+    <message>
         <source>Open Read-Only</source>
         <translation>Открыть для чтения</translation>
+    </message>
+    <message>
+        <source>Open page</source>
+        <translation>Открытая страница</translation>
+    </message>
+    <message>
+        <source>Open pages</source>
+        <translation>Открытые страницы</translation>
     </message>
     <message>
         <source>Open: the figure can be changed by hand.</source>
@@ -1034,6 +1404,10 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
     <message>
         <source>Parent Group</source>
         <translation>Входит в группу</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Вставить</translation>
     </message>
     <message>
         <source>Pay Within, Days</source>
@@ -1076,6 +1450,10 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
         <translation>Телефон</translation>
     </message>
     <message>
+        <source>Pick from a calendar (Alt+Down)</source>
+        <translation>Выбрать в календаре (Alt+Down)</translation>
+    </message>
+    <message>
         <source>Please select currency for account!</source>
         <translation>Выберите валюту счёта!</translation>
     </message>
@@ -1092,12 +1470,36 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
         <translation>Польский злотый</translation>
     </message>
     <message>
+        <source>Preferences…</source>
+        <translation>Параметры…</translation>
+    </message>
+    <message>
+        <source>Previous Tab</source>
+        <translation>Предыдущая вкладка</translation>
+    </message>
+    <message>
         <source>Price</source>
         <translation>Цена</translation>
     </message>
     <message>
         <source>Price Sum</source>
         <translation>Сумма продаж</translation>
+    </message>
+    <message>
+        <source>Print the VAT number on forms</source>
+        <translation>Печатать ИНН на бланках</translation>
+    </message>
+    <message>
+        <source>Print the bank details on forms</source>
+        <translation>Печатать реквизиты банка на бланках</translation>
+    </message>
+    <message>
+        <source>Print the logo on forms</source>
+        <translation>Печатать логотип на бланках</translation>
+    </message>
+    <message>
+        <source>Print…</source>
+        <translation>Печать…</translation>
     </message>
     <message>
         <source>Proceed</source>
@@ -1172,6 +1574,10 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
         <translation>Товары на складах</translation>
     </message>
     <message>
+        <source>Products…</source>
+        <translation>Товары…</translation>
+    </message>
+    <message>
         <source>Profit</source>
         <translation>Прибыль</translation>
     </message>
@@ -1182,6 +1588,14 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
     <message>
         <source>Project Management</source>
         <translation>Проекты</translation>
+    </message>
+    <message>
+        <source>Projects</source>
+        <translation>Проекты</translation>
+    </message>
+    <message>
+        <source>Projects…</source>
+        <translation>Проекты…</translation>
     </message>
     <message>
         <source>Property Document '</source>
@@ -1196,12 +1610,28 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
         <translation>Покупка ОС</translation>
     </message>
     <message>
+        <source>Puts the products right below each manager, from the next "Refresh" on</source>
+        <translation>Товары сразу под менеджером — со следующего нажатия «Обновить»</translation>
+    </message>
+    <message>
         <source>Qty</source>
         <translation>Остаток</translation>
     </message>
     <message>
+        <source>Quarter</source>
+        <translation>Квартал</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Выход</translation>
+    </message>
+    <message>
         <source>Rate</source>
         <translation>Курс</translation>
+    </message>
+    <message>
+        <source>Read again (F5)</source>
+        <translation>Обновить (F5)</translation>
     </message>
     <message>
         <source>Reason</source>
@@ -1216,8 +1646,32 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
         <translation>Получено</translation>
     </message>
     <message>
+        <source>Redo</source>
+        <translation>Повторить</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Обновить</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Убрать</translation>
+    </message>
+    <message>
+        <source>Remove the logo</source>
+        <translation>Убрать логотип</translation>
+    </message>
+    <message>
+        <source>Report by</source>
+        <translation>Отчёт по</translation>
+    </message>
+    <message>
         <source>Report by Selling For Period.</source>
         <translation>Отчёт по продажам за период.</translation>
+    </message>
+    <message>
+        <source>Report period</source>
+        <translation>Отчётный период</translation>
     </message>
     <message>
         <source>Reports</source>
@@ -1234,6 +1688,10 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
     <message>
         <source>Russian Ruble</source>
         <translation>Российский рубль</translation>
+    </message>
+    <message>
+        <source>SWIFT</source>
+        <translation>SWIFT</translation>
     </message>
     <message>
         <source>Salary</source>
@@ -1272,6 +1730,10 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
         <translation>Поиск в списке</translation>
     </message>
     <message>
+        <source>Select All</source>
+        <translation>Выделить всё</translation>
+    </message>
+    <message>
         <source>Selected</source>
         <translation>Выбран</translation>
     </message>
@@ -1302,6 +1764,14 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
     <message>
         <source>Shorthand</source>
         <translation>Сокращение</translation>
+    </message>
+    <message>
+        <source>Show Left Pane</source>
+        <translation>Показать левую панель</translation>
+    </message>
+    <message>
+        <source>Show the current balance at the foot</source>
+        <translation>Показывать текущий баланс внизу окна</translation>
     </message>
     <message>
         <source>Sign</source>
@@ -1368,6 +1838,18 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
         <translation>Вкладка №</translation>
     </message>
     <message>
+        <source>Takes effect at the next start</source>
+        <translation>Начнёт действовать при следующем запуске</translation>
+    </message>
+    <message>
+        <source>Takes the project off this list. Its file stays where it is.</source>
+        <translation>Убирает проект из списка. Сам файл остаётся на месте.</translation>
+    </message>
+    <message>
+        <source>Taxes</source>
+        <translation>Налоги</translation>
+    </message>
+    <message>
         <source>The GST rate must lie between 0 and 100 percent.</source>
         <translation>Ставка GST должна быть от 0 до 100 процентов.</translation>
     </message>
@@ -1386,6 +1868,14 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
     <message>
         <source>The changes were not saved!</source>
         <translation>Изменения не сохранены!</translation>
+    </message>
+    <message>
+        <source>The company pays GST</source>
+        <translation>Компания платит GST</translation>
+    </message>
+    <message>
+        <source>The company pays VAT</source>
+        <translation>Компания платит НДС</translation>
     </message>
     <message>
         <source>The currency of a stored account cannot be changed!</source>
@@ -1448,6 +1938,10 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
 </translation>
     </message>
     <message>
+        <source>The language changes at the next start.</source>
+        <translation>Язык изменится при следующем запуске.</translation>
+    </message>
+    <message>
         <source>The last finished month is closed already.</source>
         <translation>Последний завершённый месяц уже закрыт.</translation>
     </message>
@@ -1500,8 +1994,24 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
         <translation>Не заполнены поля: </translation>
     </message>
     <message>
+        <source>This is not a date.</source>
+        <translation>Это не дата.</translation>
+    </message>
+    <message>
         <source>This is not a number. Write 1234.50 or 1234,50.</source>
         <translation>Это не число. Введите 1234.50 или 1234,50.</translation>
+    </message>
+    <message>
+        <source>This period</source>
+        <translation>Текущий период</translation>
+    </message>
+    <message>
+        <source>Tick all</source>
+        <translation>Отметить все</translation>
+    </message>
+    <message>
+        <source>Tick none</source>
+        <translation>Снять отметки</translation>
     </message>
     <message>
         <source>To</source>
@@ -1510,6 +2020,10 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
     <message>
         <source>To Warehouse</source>
         <translation>На склад</translation>
+    </message>
+    <message>
+        <source>To, this day not included</source>
+        <translation>По, не включая этот день</translation>
     </message>
     <message>
         <source>Total</source>
@@ -1532,12 +2046,20 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
         <translation>Вид</translation>
     </message>
     <message>
+        <source>Type of document</source>
+        <translation>Вид документа</translation>
+    </message>
+    <message>
         <source>US Dollar</source>
         <translation>Доллар США</translation>
     </message>
     <message>
         <source>Ukrainian Hryvnia</source>
         <translation>Украинская гривна</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Отменить</translation>
     </message>
     <message>
         <source>Unit</source>
@@ -1584,8 +2106,24 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
         <translation>НДС и GST нельзя применять вместе.</translation>
     </message>
     <message>
+        <source>VAT number</source>
+        <translation>ИНН</translation>
+    </message>
+    <message>
+        <source>VAT rate, %</source>
+        <translation>Ставка НДС, %</translation>
+    </message>
+    <message>
         <source>VAT, %</source>
         <translation>НДС, %</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Версия %1</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Вид</translation>
     </message>
     <message>
         <source>Warehouse Address</source>
@@ -1616,6 +2154,14 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
         <translation>Не хватает товара «</translation>
     </message>
     <message>
+        <source>Web site</source>
+        <translation>Сайт</translation>
+    </message>
+    <message>
+        <source>What comes next?</source>
+        <translation>Что дальше?</translation>
+    </message>
+    <message>
         <source>Within</source>
         <translation>Внутри</translation>
     </message>
@@ -1634,6 +2180,10 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
     <message>
         <source>Writing to %1 failed (%2); the whole run was taken back.</source>
         <translation>Запись в %1 не удалась (%2); все операции отменены.</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Год</translation>
     </message>
     <message>
         <source>You are trying to change contragent balance manually. It may cause of incorrectness main balance. Are you sure?</source>
@@ -1658,6 +2208,10 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
         <translation>Без сохранения изменения пропадут.</translation>
     </message>
     <message>
+        <source>Zelvor Help</source>
+        <translation>Справка Zelvor</translation>
+    </message>
+    <message>
         <source>all</source>
         <translation>все</translation>
     </message>
@@ -1668,6 +2222,10 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
     <message>
         <source>another program is writing to it</source>
         <translation>в него пишет другая программа</translation>
+    </message>
+    <message>
+        <source>customers</source>
+        <translation>покупателям</translation>
     </message>
     <message>
         <source>in use by %1 (process %2 on %3) since %4</source>
@@ -1718,12 +2276,20 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
         <translation>не удалось записать его файл блокировки</translation>
     </message>
     <message>
+        <source>managers</source>
+        <translation>менеджерам</translation>
+    </message>
+    <message>
         <source>no</source>
         <translation>нет</translation>
     </message>
     <message>
         <source>nothing can be written in its folder</source>
         <translation>в его папку нельзя писать</translation>
+    </message>
+    <message>
+        <source>products</source>
+        <translation>товарам</translation>
     </message>
     <message>
         <source>selected</source>

@@ -367,7 +367,7 @@ void Commands::showMenuTitles()
         for (const auto& item : group->children) {
             const auto entry = std::ranges::find(m_typeActions, item->type, &TypeAction::type);
             if (entry != m_typeActions.end())
-                entry->action->setText(plainText(localized(item->title.toUtf8().constData())));
+                entry->action->setText(plainText(item->title));
         }
     }
     for (QMenu* const menu : m_typeMenus)

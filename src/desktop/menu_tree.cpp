@@ -19,15 +19,9 @@ namespace {
 
 constexpr int typeRole = Qt::UserRole;
 
-// What stands in the project's table is English; a project is not tied to a language.
-QString titleOf(const MainMenuItem& item)
-{
-    return localized(item.title.toUtf8().constData());
-}
-
 void fill(QTreeWidgetItem& node, const MainMenuItem& item)
 {
-    const QString title = titleOf(item);
+    const QString title = item.title;
     node.setText(0, title);
     node.setToolTip(0, title.toHtmlEscaped());
     node.setIcon(0, lineIcon(item.icon));

@@ -71,10 +71,10 @@ std::vector<QuickOpen::Target> QuickOpen::targets() const
                        [&tabs, position = tab.position] { tabs.openExistingTab(position); }});
     MainMenuController& menu = m_shell.mainMenuController;
     for (const auto& group : menu.sourceListItems) {
-        const QString groupTitle = localized(group->title.toUtf8().constData());
+        const QString groupTitle = group->title;
         for (const auto& item : group->children)
-            all.push_back({localized(item->title.toUtf8().constData()), groupTitle, item->icon,
-                           [&menu, item = item] { menu.menuItemClicked(*item); }});
+            all.push_back(
+                {item->title, groupTitle, item->icon, [&menu, item = item] { menu.menuItemClicked(*item); }});
     }
     return all;
 }

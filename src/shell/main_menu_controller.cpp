@@ -24,6 +24,7 @@ std::shared_ptr<MainMenuItem> makeItem(const Menu& entry, const QString& identif
     if (!type)
         return nullptr;
     auto item = std::make_shared<MainMenuItem>();
+    // What stands in the table is English: a project is not tied to a language.
     item->title = localized(entry.name.toUtf8().constData());
     item->identifier = identifier;
     item->type = *type;
