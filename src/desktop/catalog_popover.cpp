@@ -19,6 +19,8 @@
 #include <QtWidgets/QToolButton>
 
 #include <algorithm>
+#include <memory>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -41,6 +43,11 @@ public:
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         viewport()->setAutoFillBackground(false);
         form->setAutoFillBackground(false);
+        // Wherever the cursor comes from.
+        connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+            if (now && widget()->isAncestorOf(now))
+                ensureWidgetVisible(now);
+        });
     }
     QSize sizeHint() const override { return widget()->sizeHint(); }
     QSize minimumSizeHint() const override
@@ -57,6 +64,21 @@ void showLock(const Button& lock, QToolButton* button)
     button->setToolTip(lock.isOn()
                            ? localized("Locked: documents keep this figure. Press to change it by hand.")
                            : localized("Open: the figure can be changed by hand."));
+}
+
+// Whoever opened the lock goes on in the field.
+void goOnWhenOpened(NumberField& outlet, const Button& lock, QLineEdit* line)
+{
+    const QPointer<QLineEdit> field(line);
+    const auto wasOpen = std::make_shared<bool>(outlet.enabled());
+    outlet.onChange([&outlet, &lock, field, wasOpen] {
+        const bool before = std::exchange(*wasOpen, outlet.enabled());
+        const bool opened = outlet.enabled() && !before;
+        if (!opened || !field || !field->isVisible() || !lock.enabled() || lock.isOn())
+            return;
+        field->setFocus(Qt::OtherFocusReason);
+        field->selectAll();
+    });
 }
 
 QRect globalRect(const QWidget* widget)
@@ -203,16 +225,7 @@ void CatalogPopover::addLocked(NumberField& outlet, Button& lock, const FieldNam
         if (shown)
             showLock(lock, shown);
     });
-    // Whoever opened the lock goes on in the field.
-    const QPointer<QLineEdit> field(line);
-    outlet.onChange([&outlet, &lock, field, wasOpen = outlet.enabled()]() mutable {
-        const bool opened = outlet.enabled() && !wasOpen;
-        wasOpen = outlet.enabled();
-        if (!opened || !field || !field->isVisible() || !lock.enabled() || lock.isOn())
-            return;
-        field->setFocus(Qt::OtherFocusReason);
-        field->selectAll();
-    });
+    goOnWhenOpened(outlet, lock, line);
     addField(name.label, line, button);
 }
 
@@ -251,6 +264,7 @@ void CatalogPopover::addCheckBox(CheckBox& outlet, const QString& text, const QS
 {
     auto* const box = new QCheckBox(text, m_form);
     box->setToolTip(tip);
+    box->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed); // what can be clicked, and no more
     bind(outlet, box);
     addField({}, box);
 }

@@ -40,10 +40,10 @@ void TreeCatalogPage::serve(CatalogPopover* form, Popover& outlet, std::function
 
 QRect TreeCatalogPage::anchorOf(const OutlineView::Node& node)
 {
-    const QModelIndex index = list()->outlineModel()->indexOf(node);
-    if (!index.isValid())
+    if (!list()->outlineModel()->indexOf(node).isValid())
         return m_tools.addAnchor();
-    list()->scrollTo(index);
+    list()->selectNode(node);
+    list()->scrollTo(list()->currentIndex());
     return list()->globalRowRect(node);
 }
 

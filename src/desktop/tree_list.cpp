@@ -63,7 +63,8 @@ void TreeList::selectNode(const OutlineView::Node& node)
 
 QRect TreeList::globalRowRect(const OutlineView::Node& node) const
 {
-    const QRect cell = visualRect(m_model->indexOf(node));
+    const QModelIndex index = m_model->indexOf(node);
+    const QRect cell = visualRect(index.siblingAtColumn(firstShownColumn(m_model->columns())));
     if (cell.isEmpty())
         return {viewport()->mapToGlobal(QPoint()), QSize(1, 1)};
     return {viewport()->mapToGlobal(QPoint(0, cell.top())), QSize(viewport()->width(), cell.height())};

@@ -238,6 +238,24 @@ TEST_F(ContragentCatalog, defermentIsReadFromTheSlider)
     EXPECT_EQ(stored<Contragent>(1)->deferment, 9);
 }
 
+TEST_F(ContragentCatalog, typedDefermentMovesTheSliderWithinItsBounds)
+{
+    storeContragent(u"C"_s);
+    controller.view.doubleAction(row(controller.view, u"C"_s));
+    EXPECT_TRUE(controller.contragentDeferment.enabled());
+    type(controller.contragentDeferment, Decimal(12));
+    EXPECT_EQ(controller.contragentDefermentSlider.value(), 12);
+    type(controller.contragentDeferment, Decimal(100'000));
+    const qint64 most = controller.contragentDefermentSlider.maximum();
+    EXPECT_EQ(controller.contragentDefermentSlider.value(), most);
+    EXPECT_EQ(controller.contragentDeferment.integer(), most);
+    type(controller.contragentDeferment, Decimal(-3));
+    EXPECT_EQ(controller.contragentDeferment.integer(), 0);
+    type(controller.contragentDeferment, Decimal(7));
+    controller.contragentOkButton.userChanged();
+    EXPECT_EQ(stored<Contragent>(1)->deferment, 7);
+}
+
 TEST_F(ContragentCatalog, theSlidersMaximumFollowsTheSettings)
 {
     Params params;
