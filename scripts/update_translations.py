@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Keeps the translation tables in step with the texts of the program.
 
-Collects every literal in localized("...") and QT_TRANSLATE_NOOP("Zelvor", "...") under src/ and the names of
-resources/MainMenu.plist, and merges them into each resources/translations/zelvor_*.ts: sorted by text, with the
+Collects every literal in localized("..."), localizedAs("...", "meaning") and QT_TRANSLATE_NOOP("Zelvor", "...") under
+src/ and the names of resources/MainMenu.plist, and merges them into each resources/translations/zelvor_*.ts: sorted by text, with the
 translations that are there; a new text comes in empty, a vanished one goes.
 
     scripts/update_translations.py            merges, and lists what still wants a translation
@@ -25,8 +25,9 @@ TABLES = ROOT / "resources" / "translations"
 # Comments go, string and character literals stay whole.
 TOKEN = re.compile(r'//[^\n]*|/\*.*?\*/|"(?:[^"\\\n]|\\.)*"|\'(?:[^\'\\\n]|\\.)*\'', re.DOTALL)
 LITERALS = r'((?:"(?:[^"\\\n]|\\.)*"\s*)+)'
-CALL = re.compile(r'\blocalized\(\s*(?=[^\s"])([^)]{0,80})')
+CALL = re.compile(r'\blocalized(?:As)?\(\s*(?=[^\s"])([^)]{0,80})')
 TEXT = re.compile(r"\blocalized\(\s*" + LITERALS + r"\)")
+MEANT = re.compile(r"\blocalizedAs\(\s*" + LITERALS + r",\s*" + LITERALS + r"\)")
 MARK = re.compile(r'\bQT_TRANSLATE_NOOP\(\s*"' + CONTEXT + r'"\s*,\s*' + LITERALS + r"\)")
 ESCAPE = re.compile(r"\\(n|t|\"|'|\\|u[0-9a-fA-F]{4}|x[0-9a-fA-F]{2})")
 PLACEHOLDER = re.compile(r"%(?:L?\d+|n)")
@@ -34,6 +35,7 @@ PLACEHOLDER = re.compile(r"%(?:L?\d+|n)")
 # localized() with something else than a literal is right where the text is marked elsewhere: in a table beside the
 # call, or as a name of the menu.
 NAMES = {"const char* english", "entry.name.toUtf8"}
+PLAIN = ""  # the meaning of a text that has one only
 
 
 def without_comments(code):
@@ -53,21 +55,22 @@ def joined(literals):
 
 
 def collect():
-    """The texts of the program, and what is handed to localized() without being collected."""
+    """The texts of the program, each with its meaning, and what is handed to localized() without being collected."""
     texts, loose = set(), []
     for path in sorted((ROOT / "src").rglob("*")):
         if path.suffix not in (".cpp", ".h"):
             continue
         code = without_comments(path.read_text(encoding="utf-8"))
-        texts.update(joined(match[1]) for match in TEXT.finditer(code))
-        marked = [joined(match[1]) for match in MARK.finditer(code)]
+        texts.update((joined(match[1]), PLAIN) for match in TEXT.finditer(code))
+        texts.update((joined(match[1]), joined(match[2])) for match in MEANT.finditer(code))
+        marked = [(joined(match[1]), PLAIN) for match in MARK.finditer(code)]
         texts.update(marked)
         for match in CALL.finditer(code):
             if not marked and not any(name in match[1] for name in NAMES):
                 loose.append(f"{path.relative_to(ROOT)}: localized({match[1].strip()}")
     menu = plistlib.loads((ROOT / "resources" / "MainMenu.plist").read_bytes())
-    texts.update(item["name"] for item in menu["items"])
-    texts.discard("")
+    texts.update((item["name"], PLAIN) for item in menu["items"])
+    texts.discard(("", PLAIN))
     return texts, loose
 
 
@@ -76,7 +79,7 @@ def read_table(path):
     for message in ElementTree.parse(path).iter("message"):
         translation = message.find("translation")
         if translation.get("type") is None and translation.text:
-            table[message.findtext("source")] = translation.text
+            table[message.findtext("source"), message.findtext("comment", PLAIN)] = translation.text
     return table
 
 
@@ -84,11 +87,13 @@ def written(table, texts, language):
     lines = ['<?xml version="1.0" encoding="utf-8"?>', "<!DOCTYPE TS>",
              f'<TS version="2.1" language="{language}" sourcelanguage="en">', "<context>",
              f"    <name>{CONTEXT}</name>"]
-    for text in sorted(texts):
-        translation = table.get(text, "")
+    for text, meaning in sorted(texts):
+        translation = table.get((text, meaning), "")
         unfinished = "" if translation else ' type="unfinished"'
-        lines += ["    <message>", f"        <source>{escape(text)}</source>",
-                  f"        <translation{unfinished}>{escape(translation)}</translation>", "    </message>"]
+        lines += ["    <message>", f"        <source>{escape(text)}</source>"]
+        if meaning:
+            lines.append(f"        <comment>{escape(meaning)}</comment>")
+        lines += [f"        <translation{unfinished}>{escape(translation)}</translation>", "    </message>"]
     return "\n".join(lines + ["</context>", "</TS>", ""])
 
 
@@ -100,11 +105,13 @@ def frame(text):
 
 
 def faults(table, texts):
-    for text in sorted(texts):
-        if not table.get(text, "").strip():
-            yield f"no translation: {text!r}"
-        elif frame(table[text]) != frame(text):
-            yield f"other placeholders, ends of lines or blanks: {text!r} -> {table[text]!r}"
+    for text, meaning in sorted(texts):
+        translation = table.get((text, meaning), "")
+        named = repr(text) + (f" ({meaning})" if meaning else "")
+        if not translation.strip():
+            yield f"no translation: {named}"
+        elif frame(translation) != frame(text):
+            yield f"other placeholders, ends of lines or blanks: {named} -> {translation!r}"
 
 
 def main(arguments):

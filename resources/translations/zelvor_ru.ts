@@ -220,8 +220,16 @@
         <translation>Добавить единицу</translation>
     </message>
     <message>
+        <source>Add a product by its name</source>
+        <translation>Добавить товар по названию</translation>
+    </message>
+    <message>
         <source>Add an Employee</source>
         <translation>Добавить сотрудника</translation>
+    </message>
+    <message>
+        <source>Add to the catalog</source>
+        <translation>Добавить в справочник</translation>
     </message>
     <message>
         <source>Addition of Fixed Asset</source>
@@ -254,6 +262,10 @@
     <message>
         <source>All Intangibles</source>
         <translation>Все услуги</translation>
+    </message>
+    <message>
+        <source>All Products</source>
+        <translation>Все товары</translation>
     </message>
     <message>
         <source>All Products on '</source>
@@ -448,6 +460,14 @@
         <translation>Выбрать</translation>
     </message>
     <message>
+        <source>Choose a counterparty</source>
+        <translation>Выбрать контрагента</translation>
+    </message>
+    <message>
+        <source>Choose the counterparty</source>
+        <translation>Выбрать контрагента</translation>
+    </message>
+    <message>
         <source>Choose the logo file</source>
         <translation>Выбрать файл логотипа</translation>
     </message>
@@ -530,6 +550,10 @@
     <message>
         <source>Confirm</source>
         <translation>Провести</translation>
+    </message>
+    <message>
+        <source>Confirm the document (Ctrl+Return)</source>
+        <translation>Провести документ (Ctrl+Return)</translation>
     </message>
     <message>
         <source>Confirmed</source>
@@ -712,16 +736,44 @@
         <translation>Удалить документ</translation>
     </message>
     <message>
+        <source>Delete Row</source>
+        <translation>Удалить строку</translation>
+    </message>
+    <message>
+        <source>Delete the document</source>
+        <translation>Удалить документ</translation>
+    </message>
+    <message>
         <source>Delete the document?</source>
         <translation>Удалить документ?</translation>
+    </message>
+    <message>
+        <source>Delete the selected row (Delete)</source>
+        <translation>Удалить выбранную строку (Delete)</translation>
+    </message>
+    <message>
+        <source>Delete this document?</source>
+        <translation>Удалить этот документ?</translation>
     </message>
     <message>
         <source>Description</source>
         <translation>Описание</translation>
     </message>
     <message>
+        <source>Discount</source>
+        <translation>Скидка</translation>
+    </message>
+    <message>
         <source>Discount, %</source>
         <translation>Скидка, %</translation>
+    </message>
+    <message>
+        <source>Discount, percent</source>
+        <translation>Скидка, процентов</translation>
+    </message>
+    <message>
+        <source>Discount, percent, by a slider</source>
+        <translation>Скидка, процентов, ползунком</translation>
     </message>
     <message>
         <source>Do you want to save the changes to the document?</source>
@@ -757,6 +809,11 @@
     </message>
     <message>
         <source>Edit</source>
+        <translation>Изменить</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <comment>menu</comment>
         <translation>Правка</translation>
     </message>
     <message>
@@ -998,6 +1055,11 @@
         <translation>С</translation>
     </message>
     <message>
+        <source>From</source>
+        <comment>warehouse</comment>
+        <translation>Со склада</translation>
+    </message>
+    <message>
         <source>From Warehouse</source>
         <translation>Со склада</translation>
     </message>
@@ -1177,7 +1239,7 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
     </message>
     <message>
         <source>Missing: </source>
-        <translation>Не хватает: </translation>
+        <translation>Нет файла: </translation>
     </message>
     <message>
         <source>Money</source>
@@ -1189,7 +1251,7 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
     </message>
     <message>
         <source>Money Document '</source>
-        <translation>Денежный документ '</translation>
+        <translation>Документ '</translation>
     </message>
     <message>
         <source>Money Documents From: </source>
@@ -1197,7 +1259,7 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
     </message>
     <message>
         <source>Money Journal</source>
-        <translation>Журнал денежных документов</translation>
+        <translation>Денежный журнал</translation>
     </message>
     <message>
         <source>Money from Employee</source>
@@ -1212,8 +1274,21 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
         <translation>Месяц</translation>
     </message>
     <message>
+        <source>More</source>
+        <translation>Ещё</translation>
+    </message>
+    <message>
+        <source>More commands</source>
+        <translation>Другие команды</translation>
+    </message>
+    <message>
         <source>Name</source>
         <translation>Наименование</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <comment>person</comment>
+        <translation>Имя</translation>
     </message>
     <message>
         <source>Need to close last month.</source>
@@ -1268,6 +1343,10 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
         <translation>Без менеджера</translation>
     </message>
     <message>
+        <source>No product of that name can be taken here.</source>
+        <translation>Товара с таким названием здесь нет.</translation>
+    </message>
+    <message>
         <source>No products yet. Add the first one, or import a list.</source>
         <translation>Товаров пока нет. Добавьте первый или загрузите список.</translation>
     </message>
@@ -1279,11 +1358,11 @@ or Open Existing… for a project file that you have.</source>
         <translation>Проектов пока нет.
 
 Нажмите «Создать…», чтобы начать учёт,
-или «Открыть…», если файл проекта уже есть.</translation>
+или «Открыть файл…», если файл проекта уже есть.</translation>
     </message>
     <message>
-        <source>No rows yet.</source>
-        <translation>Строк пока нет.</translation>
+        <source>No rows yet. Type a product, or drag one from the list on the right.</source>
+        <translation>Строк пока нет. Введите товар или перетащите его из списка справа.</translation>
     </message>
     <message>
         <source>No units yet. Add the first one.</source>
@@ -1351,7 +1430,7 @@ or Open Existing… for a project file that you have.</source>
     </message>
     <message>
         <source>Open Existing…</source>
-        <translation>Открыть…</translation>
+        <translation>Открыть файл…</translation>
     </message>
     <message>
         <source>Open Logo File</source>
@@ -1412,6 +1491,18 @@ or Open Existing… for a project file that you have.</source>
     <message>
         <source>Pay Within, Days</source>
         <translation>Отсрочка, дней</translation>
+    </message>
+    <message>
+        <source>Pay within</source>
+        <translation>Отсрочка</translation>
+    </message>
+    <message>
+        <source>Pay within, days</source>
+        <translation>Отсрочка, дней</translation>
+    </message>
+    <message>
+        <source>Pay within, days, by a slider</source>
+        <translation>Отсрочка, дней, ползунком</translation>
     </message>
     <message>
         <source>Payment Calendar</source>
@@ -1486,6 +1577,18 @@ or Open Existing… for a project file that you have.</source>
         <translation>Сумма продаж</translation>
     </message>
     <message>
+        <source>Prices include VAT</source>
+        <translation>Цены с НДС</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Печать</translation>
+    </message>
+    <message>
+        <source>Print (Ctrl+P)</source>
+        <translation>Печать (Ctrl+P)</translation>
+    </message>
+    <message>
         <source>Print the VAT number on forms</source>
         <translation>Печатать ИНН на бланках</translation>
     </message>
@@ -1515,7 +1618,7 @@ or Open Existing… for a project file that you have.</source>
     </message>
     <message>
         <source>Product Document '</source>
-        <translation>Товарный документ '</translation>
+        <translation>Документ '</translation>
     </message>
     <message>
         <source>Product Documents From: </source>
@@ -1531,7 +1634,7 @@ or Open Existing… for a project file that you have.</source>
     </message>
     <message>
         <source>Product Journal</source>
-        <translation>Журнал товарных документов</translation>
+        <translation>Товарный журнал</translation>
     </message>
     <message>
         <source>Product Name</source>
@@ -1570,8 +1673,16 @@ or Open Existing… for a project file that you have.</source>
         <translation>Товары на складах</translation>
     </message>
     <message>
+        <source>Products of that name</source>
+        <translation>Товары с таким названием</translation>
+    </message>
+    <message>
         <source>Products on Warehouses</source>
         <translation>Товары на складах</translation>
+    </message>
+    <message>
+        <source>Products that the document can take</source>
+        <translation>Товары для документа</translation>
     </message>
     <message>
         <source>Products…</source>
@@ -1599,7 +1710,7 @@ or Open Existing… for a project file that you have.</source>
     </message>
     <message>
         <source>Property Document '</source>
-        <translation>Документ ОС '</translation>
+        <translation>Документ '</translation>
     </message>
     <message>
         <source>Purchase</source>
@@ -1682,8 +1793,16 @@ or Open Existing… for a project file that you have.</source>
         <translation>Резерв</translation>
     </message>
     <message>
+        <source>Responsible</source>
+        <translation>Ответственный</translation>
+    </message>
+    <message>
         <source>Return</source>
         <translation>Возврат</translation>
+    </message>
+    <message>
+        <source>Rows of the document</source>
+        <translation>Строки документа</translation>
     </message>
     <message>
         <source>Russian Ruble</source>
@@ -1722,12 +1841,24 @@ or Open Existing… for a project file that you have.</source>
         <translation>Сохранить</translation>
     </message>
     <message>
+        <source>Save the draft (Ctrl+S)</source>
+        <translation>Сохранить черновик (Ctrl+S)</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
         <source>Search (Ctrl+F)</source>
         <translation>Поиск (Ctrl+F)</translation>
     </message>
     <message>
         <source>Search in the list</source>
         <translation>Поиск в списке</translation>
+    </message>
+    <message>
+        <source>Search the counterparties</source>
+        <translation>Поиск контрагентов</translation>
     </message>
     <message>
         <source>Select All</source>
@@ -1826,6 +1957,10 @@ or Open Existing… for a project file that you have.</source>
         <translation>Сумма налога</translation>
     </message>
     <message>
+        <source>TAX on top of prices</source>
+        <translation>Налог сверх цены</translation>
+    </message>
+    <message>
         <source>TOTAL</source>
         <translation>ИТОГО</translation>
     </message>
@@ -1836,6 +1971,10 @@ or Open Existing… for a project file that you have.</source>
     <message>
         <source>Tab #</source>
         <translation>Вкладка №</translation>
+    </message>
+    <message>
+        <source>Take the counterparty out</source>
+        <translation>Убрать контрагента</translation>
     </message>
     <message>
         <source>Takes effect at the next start</source>
@@ -1904,6 +2043,10 @@ or Open Existing… for a project file that you have.</source>
 </source>
         <translation>Отсрочка должна быть от 0 до 36500 дней.
 </translation>
+    </message>
+    <message>
+        <source>The document and its rows are taken out of the project for good.</source>
+        <translation>Документ и его строки будут удалены из проекта навсегда.</translation>
     </message>
     <message>
         <source>The document is confirmed already.
@@ -2018,6 +2161,11 @@ or Open Existing… for a project file that you have.</source>
         <translation>По</translation>
     </message>
     <message>
+        <source>To</source>
+        <comment>warehouse</comment>
+        <translation>На склад</translation>
+    </message>
+    <message>
         <source>To Warehouse</source>
         <translation>На склад</translation>
     </message>
@@ -2035,7 +2183,7 @@ or Open Existing… for a project file that you have.</source>
     </message>
     <message>
         <source>Transfer Between Warehouses</source>
-        <translation>Перемещение между складами</translation>
+        <translation>Перемещение товаров</translation>
     </message>
     <message>
         <source>Turkish Lira</source>
@@ -2044,6 +2192,10 @@ or Open Existing… for a project file that you have.</source>
     <message>
         <source>Type</source>
         <translation>Вид</translation>
+    </message>
+    <message>
+        <source>Type a product…</source>
+        <translation>Введите товар…</translation>
     </message>
     <message>
         <source>Type of document</source>
@@ -2228,6 +2380,10 @@ or Open Existing… for a project file that you have.</source>
         <translation>покупателям</translation>
     </message>
     <message>
+        <source>days</source>
+        <translation>дней</translation>
+    </message>
+    <message>
         <source>in use by %1 (process %2 on %3) since %4</source>
         <translation>занят: %1 (процесс %2 на %3) с %4</translation>
     </message>
@@ -2281,6 +2437,10 @@ or Open Existing… for a project file that you have.</source>
     </message>
     <message>
         <source>no</source>
+        <translation>нет</translation>
+    </message>
+    <message>
+        <source>none</source>
         <translation>нет</translation>
     </message>
     <message>

@@ -3,6 +3,7 @@
 #include "catalogs/default_and_hidden.h"
 #include "catalogs/manager_view_controller.h"
 #include "core/localized.h"
+#include "core/localized_as.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -21,7 +22,7 @@ const std::vector<std::shared_ptr<Function>>& ManagerView::functions() const
 std::vector<ViewColumn> ManagerView::columns() const
 {
     return {
-        {.identifier = u"name"_s, .title = localized("Name"), .sortKey = u"name"_s},
+        {.identifier = u"name"_s, .title = localizedAs("Name", "person"), .sortKey = u"name"_s},
         {.identifier = u"function"_s, .title = localized("Function"), .sortKey = u"function"_s},
         {.identifier = u"balance"_s,
          .title = localized("Balance"),

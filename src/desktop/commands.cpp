@@ -1,6 +1,7 @@
 #include "desktop/commands.h"
 
 #include "core/localized.h"
+#include "core/localized_as.h"
 #include "desktop/desktop_settings.h"
 #include "desktop/icons.h"
 #include "desktop/main_window.h"
@@ -183,7 +184,7 @@ void Commands::addFileMenu()
 
 void Commands::addEditMenu()
 {
-    QMenu* const menu = addMenu(localized("Edit"));
+    QMenu* const menu = addMenu(localizedAs("Edit", "menu"));
     addEdit(menu, "undo", localized("Undo"), QKeySequence::Undo, "undo");
     addEdit(menu, "redo", localized("Redo"), QKeySequence::Redo, "redo");
     menu->addSeparator();

@@ -1,6 +1,7 @@
 #include "desktop/manager_popover.h"
 
 #include "catalogs/manager_view_controller.h"
+#include "core/localized_as.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -10,7 +11,8 @@ ManagerPopover::ManagerPopover(ManagerViewController& controller, QWidget* host)
     : CatalogPopover(controller.managerPopover, host, [&controller] { controller.cancelManagerPopover(); })
 {
     setTitle(controller.managerPopoverTitle);
-    QLineEdit* const name = addText(controller.managerName, {localized("Name"), localized("Employee Name")});
+    QLineEdit* const name =
+        addText(controller.managerName, {localizedAs("Name", "person"), localized("Employee Name")});
     addChooser(controller.managerFunctionSelect, {localized("Function"), localized("Employee Function")},
                {u"addFunctionFromManager"_s, localized("Add a Function"),
                 [&controller] { controller.addFunction(); }});

@@ -2,6 +2,7 @@
 
 #include "catalogs/catalog_list.h"
 #include "core/localized.h"
+#include "core/localized_as.h"
 #include "core/text_order.h"
 #include "documents/document_journal_view_controller.h"
 
@@ -27,8 +28,8 @@ std::vector<ViewColumn> DocumentJournalView::columns() const
         {u"correction"_s, localized("Correction"), CheckBox, Center},
         {u"sum"_s, localized("Sum"), Amount, Right, false, u"sum"_s},
         {u"contragent"_s, localized("Counterparty"), Text, Left, false, u"contragent"_s},
-        {u"stockFrom"_s, localized("From")},
-        {u"stockTo"_s, localized("To")},
+        {u"stockFrom"_s, localizedAs("From", "warehouse")},
+        {u"stockTo"_s, localizedAs("To", "warehouse")},
         {u"manager"_s, localized("Employee")},
         {u"comment"_s, localized("Comment")},
     };
