@@ -166,15 +166,22 @@ void DayField::keyPressEvent(QKeyEvent* event)
 void DayField::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
-    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
-        QMetaObject::invokeMethod(this, &QLineEdit::selectAll, Qt::QueuedConnection);
+    if (event->reason() != Qt::MouseFocusReason)
+        return; // Tab selects by itself
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (hasFocus())
+                selectAll();
+        },
+        Qt::QueuedConnection);
 }
 
 QSize DayField::sizeHint() const
 {
     const QSize usual = QLineEdit::sizeHint();
     const int text = fontMetrics().horizontalAdvance(u"00.00.0000"_s);
-    return {text + measures::menuIcon + 6 * measures::labelGap, usual.height()};
+    return {text + measures::menuIcon + 5 * measures::labelGap, usual.height()};
 }
 
 void DayField::showWrong(bool wrong)

@@ -24,7 +24,7 @@ FilterField::FilterField(const QString& name, const QString& title, Label& displ
     row->addWidget(caption);
     m_display->setReadOnly(true);
     m_display->setFocusPolicy(Qt::NoFocus); // the buttons beside it are the way in
-    m_display->setFixedWidth(fontMetrics().averageCharWidth() * 16);
+    m_display->setFixedWidth(fontMetrics().averageCharWidth() * 13);
     bind(display, m_display, title);
     row->addWidget(m_display);
     m_choose = addButton(u"choose"_s + name, u"choose"_s, localized("Choose") + u": "_s + title,

@@ -56,7 +56,7 @@ PeriodBar::PeriodBar(const Outlets& outlets, const Calendar& calendar, QWidget* 
     m_current = new QPushButton(localized("This period"), this);
     m_current->setObjectName(u"currentPeriodButton"_s);
     m_current->setAutoDefault(false);
-    m_current->setToolTip(localized("From the first day of the report period to the end of today"));
+    m_current->setToolTip(localized("Start at the first day of the report period"));
     connect(m_current, &QPushButton::clicked, this, &PeriodBar::currentPeriodChosen);
     row->addWidget(m_current);
 }
