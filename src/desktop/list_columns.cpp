@@ -87,15 +87,24 @@ void fitColumns(QHeaderView& header, const QAbstractItemModel& model, const std:
         header.setStretchLastSection(true);
 }
 
+// The header moves its indicator by itself before it tells of a click, also onto a column that does not sort;
+// so the order is kept beside it.
 void sortByClick(QAbstractItemModel& model, QHeaderView& header, const std::vector<ViewColumn>& columns,
-                  int column)
+                 int column)
 {
+    static constexpr auto sortedColumn = "sortedColumn";
+    static constexpr auto sortedOrder = "sortedOrder";
+    const QVariant before = header.property(sortedColumn);
+    const auto orderBefore = static_cast<Qt::SortOrder>(header.property(sortedOrder).toInt());
     if (column < 0 || column >= static_cast<int>(columns.size()) ||
-        columns[static_cast<std::size_t>(column)].sortKey.isEmpty())
+        columns[static_cast<std::size_t>(column)].sortKey.isEmpty()) {
+        header.setSortIndicator(before.isValid() ? before.toInt() : -1, orderBefore);
         return;
-    const bool again = header.isSortIndicatorShown() && header.sortIndicatorSection() == column;
-    const auto order =
-        again && header.sortIndicatorOrder() == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
+    }
+    const bool again = before.isValid() && before.toInt() == column;
+    const auto order = again && orderBefore == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
+    header.setProperty(sortedColumn, column);
+    header.setProperty(sortedOrder, static_cast<int>(order));
     header.setSortIndicator(column, order);
     header.setSortIndicatorShown(true);
     model.sort(column, order);

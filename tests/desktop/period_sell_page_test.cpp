@@ -176,8 +176,11 @@ TEST_F(PeriodSellPageTest, sortingLeavesTheTotalLastAndOutlivesARefresh)
     shop.clickHeader(u"priceSum"_s);
     const QStringList descending{u"Drinks"_s, u"Tea"_s, u"Coffee"_s, u"Dishes"_s, u"Cup"_s, u"TOTAL"_s};
     EXPECT_EQ(names(), descending);
+    shop.clickHeader(u"packs"_s); // does not sort
     refresh();
     EXPECT_EQ(names(), descending);
+    EXPECT_EQ(shop.page()->list()->horizontalHeader()->sortIndicatorSection(),
+              shop.cell(0, u"priceSum"_s).column());
 }
 
 TEST_F(PeriodSellPageTest, aTickedGroupCarriesItsProductsAndTheDisplayCounts)
