@@ -291,6 +291,7 @@ TEST_F(PeriodSellPageTest, thePopoversGoWithThePage)
 {
     EXPECT_EQ(shop.window().findChildren<SelectionPopover*>().size(), 3);
     shop.workspace().closeTab(*shop.workspace().tabView.body.activTab);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(shop.window().findChildren<SelectionPopover*>().size(), 0);
 }
 
