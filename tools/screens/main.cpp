@@ -21,6 +21,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+constexpr auto zoneName = "Europe/Vienna";
+
 // Nobody sits there to answer: every question is cancelled, what the program says is printed.
 class SilentDialogs final : public zelvor::Dialogs {
 public:
@@ -69,7 +71,7 @@ bool photograph(const Wish& wish)
         return false;
     }
     // The last day of the sample business, in the zone that it lives in.
-    const QTimeZone zone("Europe/Vienna");
+    const QTimeZone zone(zoneName);
     zelvor::FixedClock clock(QDateTime(QDate(2026, 10, 31), QTime(18, 30), zone).toSecsSinceEpoch());
     SilentDialogs dialogs;
     zelvor::DefaultsStore defaults(home.filePath(u"Zelvor.conf"_s));
@@ -90,6 +92,7 @@ int main(int argc, char* argv[])
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("TZ", zoneName); // the widgets' zone, and the calendar's below
     QApplication application(argc, argv);
     QApplication::setApplicationName(u"Zelvor"_s);
     QApplication::setQuitOnLastWindowClosed(false);
