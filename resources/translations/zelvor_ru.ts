@@ -1064,10 +1064,6 @@
         <translation>Со склада</translation>
     </message>
     <message>
-        <source>From the first day of the report period to the end of today</source>
-        <translation>С первого дня отчётного периода до конца сегодняшнего дня</translation>
-    </message>
-    <message>
         <source>Full Screen</source>
         <translation>Во весь экран</translation>
     </message>
@@ -1931,6 +1927,10 @@ or Open Existing… for a project file that you have.</source>
     <message>
         <source>Spendings Report</source>
         <translation>Отчёт по расходам</translation>
+    </message>
+    <message>
+        <source>Start at the first day of the report period</source>
+        <translation>Начать с первого дня отчётного периода</translation>
     </message>
     <message>
         <source>Stock In</source>
