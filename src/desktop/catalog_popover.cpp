@@ -108,6 +108,7 @@ CatalogPopover::CatalogPopover(Popover& outlet, QWidget* host, std::function<voi
     setOnCancel(m_cancelForm);
     setAnchor([this] { return anchor(); });
     connect(host, &QObject::destroyed, this, [this] { delete this; });
+    host->installEventFilter(this);
 }
 
 // A form that is gone must not stay open behind the controller's back: it could never be opened again.
@@ -115,6 +116,14 @@ CatalogPopover::~CatalogPopover()
 {
     if (m_popover.isOpen())
         m_cancelForm();
+}
+
+// The form does not stay behind on another page.
+bool CatalogPopover::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_host && event->type() == QEvent::Hide && !event->spontaneous() && m_popover.isOpen())
+        m_cancelForm();
+    return PopoverPanel::eventFilter(watched, event);
 }
 
 // Asked anew when the window changes its size: then the focus is in here already.

@@ -23,6 +23,8 @@ public:
     void setRowAnchor(std::function<QRect()> anchor) { m_rowAnchor = std::move(anchor); }
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
     // What stands beside the label, and what a screen reader calls the field.
     struct FieldName {
         QString label;

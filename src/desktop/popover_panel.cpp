@@ -173,6 +173,14 @@ void PopoverPanel::cancel()
         m_outlet.close();
 }
 
+// The commands of the window behind wait as well: no key leads away from an open form.
+bool PopoverPanel::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride)
+        event->accept();
+    return QFrame::event(event);
+}
+
 void PopoverPanel::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape) {

@@ -509,6 +509,24 @@ TEST_F(ProductsPage, aTabClosedUnderItsFormCancelsIt)
     EXPECT_NE(product(u"Soap"_s), nullptr);
 }
 
+TEST_F(ProductsPage, noKeyLeadsAwayFromAnOpenForm)
+{
+    openPage(DocType::StockCatalog);
+    openSampleTree();
+    edit(u"Soap"_s);
+    write(u"Soap bar"_s);
+    press(Qt::Key_F, Qt::ControlModifier);
+    press(Qt::Key_W, Qt::ControlModifier);
+    press(Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(workspace().tabView.header.tabs().size(), 2u);
+    ASSERT_TRUE(isOpen(u"productPopover"_s));
+    EXPECT_TRUE(program.find(u"productPopover"_s)->isAncestorOf(QApplication::focusWidget()));
+    press(Qt::Key_Return);
+    EXPECT_NE(product(u"Soap bar"_s), nullptr);
+    press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(focusName(), u"searchLine"_s);
+}
+
 TEST_F(ProductsPage, theEditButtonServesTheSelectedRowOnly)
 {
     storeNamed<Product>(u"Soap"_s);
