@@ -6,6 +6,7 @@
 #include "desktop/cell_text.h"
 #include "desktop/measures.h"
 #include "desktop/report_tools.h"
+#include "desktop/total_strip.h"
 #include "desktop/wrap_layout.h"
 #include "period/balance_view_controller.h"
 #include "store/params.h"
@@ -25,6 +26,7 @@ BalancePage::BalancePage(BalanceViewController& controller, QWidget* parent)
       m_controller(controller)
 {
     rows()->insertLayout(1, makeControls());
+    TotalStrip::addBelow(list(), 2, rows()); // TOTAL and BALANCE
     const QPointer<BalancePage> self(this);
     controller.view.onReload([self] {
         if (self && self->isVisible())

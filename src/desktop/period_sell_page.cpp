@@ -8,6 +8,7 @@
 #include "desktop/period_bar.h"
 #include "desktop/report_tools.h"
 #include "desktop/selection_popover.h"
+#include "desktop/total_strip.h"
 #include "desktop/wrap_layout.h"
 #include "reports/period_sell_report_view_controller.h"
 
@@ -30,6 +31,7 @@ PeriodSellPage::PeriodSellPage(PeriodSellReportViewController& controller, QWidg
 {
     rows()->insertLayout(1, makePeriodAndFilters());
     rows()->insertLayout(2, makeShape());
+    TotalStrip::addBelow(list(), 1, rows());
     showBusyCursor(controller.progress, this);
     listen();
 }
@@ -197,15 +199,29 @@ void PeriodSellPage::takeFocus()
         m_period->firstField()->setFocus(Qt::OtherFocusReason);
 }
 
-// A line of the report has nothing to open.
+SelectionPopover* PeriodSellPage::openPopover() const
+{
+    for (const QPointer<SelectionPopover>& popover : m_popovers) {
+        if (popover && popover->isVisible())
+            return popover;
+    }
+    return nullptr;
+}
+
+// A line of the report has nothing to open. While a popover is open, the page behind it waits.
 bool PeriodSellPage::can(PageCommand command) const
 {
+    if (openPopover())
+        return command == PageCommand::Find;
     return command != PageCommand::Edit && TablePage::can(command);
 }
 
 void PeriodSellPage::perform(PageCommand command)
 {
-    if (command == PageCommand::Refresh)
+    SelectionPopover* const popover = openPopover();
+    if (popover && command == PageCommand::Find)
+        popover->startSearch();
+    else if (command == PageCommand::Refresh)
         run();
     else
         TablePage::perform(command);

@@ -34,6 +34,7 @@ private:
     FilterField* addFilter(QLayout* bar, const QString& name, const QString& title, Label& display);
     template <class SelectView>
     void addPopover(SelectView& view, const QString& title, FilterField* field);
+    SelectionPopover* openPopover() const; // none is
     void run();
     void listen();
     void markOutdated();

@@ -74,6 +74,12 @@ QPushButton* SelectionPopover::tickButton(const QString& objectName, const QStri
     return button;
 }
 
+void SelectionPopover::startSearch()
+{
+    m_search->setFocus(Qt::ShortcutFocusReason);
+    m_search->selectAll();
+}
+
 // The search of the last time is gone, and the groups of the top level stand open.
 void SelectionPopover::startAfresh()
 {

@@ -34,6 +34,7 @@ public:
     }
 
     QAbstractItemView* list() const { return m_list; }
+    void startSearch();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

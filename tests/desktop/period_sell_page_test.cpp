@@ -262,6 +262,42 @@ TEST_F(PeriodSellPageTest, aPopoverIsWorkedByTheKeyboardAlone)
     EXPECT_EQ(display(u"selectedProductsDisplay"_s), u"1 selected"_s);
 }
 
+TEST_F(PeriodSellPageTest, theKeysOfTheMenuReachWhatIsInFront)
+{
+    QTest::keyClick(&shop.window(), Qt::Key_F5);
+    EXPECT_EQ(names().size(), 6);
+    shop.click(u"chooseProducts"_s);
+    ticks()->setFocus();
+    QTest::keyClick(&shop.window(), Qt::Key_F, Qt::ControlModifier);
+    QWidget* const popover = shop.find(u"selectPopover"_s);
+    EXPECT_TRUE(popover->isAncestorOf(QApplication::focusWidget()));
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), u"searchLine"_s);
+}
+
+TEST_F(PeriodSellPageTest, theTotalStaysInSightOfALongReport)
+{
+    refresh();
+    TableList* const list = shop.page()->list();
+    EXPECT_EQ(shop.find(u"totalStrip"_s), nullptr);
+    EXPECT_FALSE(list->isRowHidden(5));
+    const int tall = shop.window().height() - list->height() + 4 * list->rowHeight(0);
+    shop.window().setMinimumHeight(0);
+    shop.window().resize(shop.window().width(), tall);
+    QTest::qWait(1);
+    QWidget* const strip = shop.find(u"totalStrip"_s);
+    ASSERT_NE(strip, nullptr);
+    EXPECT_TRUE(list->isRowHidden(5));
+    EXPECT_EQ(strip->mapTo(shop.page(), QPoint()).y(), list->geometry().bottom() + 1);
+    EXPECT_EQ(names().size(), 6);
+    shop.clickHeader(u"priceSum"_s);
+    EXPECT_TRUE(list->isRowHidden(5));
+
+    shop.page()->perform(PageCommand::Find); // among the matches the total has no place
+    QTest::keyClicks(QApplication::focusWidget(), u"tea"_s);
+    EXPECT_EQ(shop.find(u"totalStrip"_s), nullptr);
+    EXPECT_EQ(names(), QStringList{u"Tea"_s});
+}
+
 TEST_F(PeriodSellPageTest, saysWhileTheTableIsNotWhatWasChosen)
 {
     shop.click(u"reportType1"_s);

@@ -1,0 +1,97 @@
+#include "desktop/total_strip.h"
+
+#include "core/localized.h"
+#include "desktop/table_list.h"
+
+#include <QtCore/QEvent>
+#include <QtGui/QPainter>
+#include <QtWidgets/QAbstractItemDelegate>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zelvor {
+
+TotalStrip::TotalStrip(TableList* list, int rows) : QWidget(list->parentWidget()), m_list(list), m_rows(rows)
+{
+    setObjectName(u"totalStrip"_s);
+    setAccessibleName(localized("Totals"));
+    hide();
+    list->installEventFilter(this);
+    const auto redraw = [this] { update(); };
+    connect(list->tableModel(), &QAbstractItemModel::modelReset, this, &TotalStrip::arrange);
+    connect(list->horizontalHeader(), &QHeaderView::sectionResized, this, redraw);
+    connect(list->horizontalScrollBar(), &QScrollBar::valueChanged, this, redraw);
+}
+
+TotalStrip* TotalStrip::addBelow(TableList* list, int rows, QVBoxLayout* page)
+{
+    auto* const strip = new TotalStrip(list, rows);
+    auto* const together = new QVBoxLayout;
+    together->setSpacing(0);
+    const int place = page->indexOf(list);
+    page->removeWidget(list);
+    together->addWidget(list, 1);
+    together->addWidget(strip);
+    page->insertLayout(place, together, 1);
+    return strip;
+}
+
+bool TotalStrip::isNeeded() const
+{
+    const TableViewModel& model = *m_list->tableModel();
+    const int last = model.rowCount() - 1;
+    if (last < m_rows || model.viewRow(last) != m_list->shownView().numberOfRows() - 1)
+        return false;
+    const int place = m_list->height() + (isHidden() ? 0 : height()) - m_list->horizontalHeader()->height();
+    return (last + 1) * m_list->verticalHeader()->defaultSectionSize() > place;
+}
+
+void TotalStrip::arrange()
+{
+    const bool needed = isNeeded();
+    const int count = m_list->tableModel()->rowCount();
+    for (int row = std::max(0, count - m_rows); row < count; ++row)
+        m_list->setRowHidden(row, needed);
+    setFixedHeight(m_rows * m_list->verticalHeader()->defaultSectionSize());
+    setVisible(needed);
+    update();
+}
+
+bool TotalStrip::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Resize || event->type() == QEvent::FontChange)
+        arrange();
+    return QWidget::eventFilter(watched, event);
+}
+
+void TotalStrip::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), m_list->palette().color(QPalette::Base));
+    const TableViewModel& model = *m_list->tableModel();
+    const int height = m_list->verticalHeader()->defaultSectionSize();
+    const int first = model.rowCount() - m_rows;
+    QStyleOptionViewItem option;
+    option.initFrom(m_list);
+    option.state = QStyle::State_Enabled | QStyle::State_Active;
+    option.widget = m_list;
+    painter.setClipRect(0, 0, m_list->viewport()->width(), this->height());
+    for (int row = std::max(0, first); row < model.rowCount(); ++row) {
+        for (int column = 0; column < model.columnCount(); ++column) {
+            if (m_list->isColumnHidden(column))
+                continue;
+            option.rect = {m_list->columnViewportPosition(column), (row - first) * height,
+                           m_list->columnWidth(column), height};
+            m_list->itemDelegate()->paint(&painter, option, model.index(row, column));
+        }
+    }
+    painter.setPen(m_list->palette().color(QPalette::Mid));
+    painter.drawLine(0, 0, width(), 0);
+}
+
+} // namespace zelvor
