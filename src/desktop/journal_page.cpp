@@ -8,6 +8,7 @@
 #include "desktop/measures.h"
 #include "desktop/period_bar.h"
 #include "desktop/report_tools.h"
+#include "desktop/sort_keeper.h"
 #include "desktop/wrap_layout.h"
 #include "documents/document_journal_view_controller.h"
 
@@ -31,7 +32,7 @@ JournalPage::JournalPage(DocumentJournalViewController& controller, QWidget* par
     : TablePage(controller.mainView, controller.appDelegate.calendar,
                 localized("No documents in this period. Choose other dates, or press \"This period\"."),
                 parent),
-      m_controller(controller)
+      m_controller(controller), m_order(new SortKeeper(list()))
 {
     rows()->insertLayout(1, makeControls());
     makeMenu();
@@ -40,7 +41,7 @@ JournalPage::JournalPage(DocumentJournalViewController& controller, QWidget* par
     const QPointer<JournalPage> self(this);
     controller.progress.onChange([self] {
         if (self && !self->m_controller.progress.isRunning())
-            keepSortOrder(*self->list());
+            self->m_order->sortAgain();
     });
     controller.mainView.onReload([self] {
         if (self)

@@ -8,6 +8,7 @@ namespace zelvor {
 
 class DocumentJournalViewController;
 class PeriodBar;
+class SortKeeper;
 
 // A document journal with its period and type. Double click or Enter opens a document; an unconfirmed one
 // can be deleted, by the context menu or the Delete key.
@@ -34,6 +35,7 @@ private:
 
     DocumentJournalViewController& m_controller;
     PeriodBar* m_period = nullptr;
+    SortKeeper* m_order;
     QMenu* m_menu = nullptr;
     QAction* m_delete = nullptr;
     QAction* m_open = nullptr;

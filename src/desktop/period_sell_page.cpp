@@ -8,6 +8,7 @@
 #include "desktop/period_bar.h"
 #include "desktop/report_tools.h"
 #include "desktop/selection_popover.h"
+#include "desktop/sort_keeper.h"
 #include "desktop/total_strip.h"
 #include "desktop/wrap_layout.h"
 #include "reports/period_sell_report_view_controller.h"
@@ -27,7 +28,7 @@ namespace zelvor {
 PeriodSellPage::PeriodSellPage(PeriodSellReportViewController& controller, QWidget* parent)
     : TablePage(controller.mainView, controller.appDelegate.calendar,
                 localized("Choose the period and press \"Refresh\"."), parent),
-      m_controller(controller)
+      m_controller(controller), m_order(new SortKeeper(list()))
 {
     rows()->insertLayout(1, makePeriodAndFilters());
     rows()->insertLayout(2, makeShape());
@@ -167,6 +168,8 @@ void PeriodSellPage::listen()
             self->showResult();
     });
     report.onReload([self] {
+        if (self)
+            self->m_order->showMark(); // also where groups part the rows
         if (self && self->heading()->text() != self->view().name())
             self->setHeading(self->view().name());
     });
@@ -187,7 +190,7 @@ void PeriodSellPage::markOutdated()
 void PeriodSellPage::showResult()
 {
     m_outdated->hide();
-    keepSortOrder(*list());
+    m_order->sortAgain();
     setEmptyText(*list(), localized("Nothing was sold in this period."));
 }
 

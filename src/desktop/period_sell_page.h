@@ -11,6 +11,7 @@ namespace zelvor {
 
 class FilterField;
 class PeriodBar;
+class SortKeeper;
 class PeriodSellReportViewController;
 class SelectionPopover;
 
@@ -42,6 +43,7 @@ private:
 
     PeriodSellReportViewController& m_controller;
     PeriodBar* m_period = nullptr;
+    SortKeeper* m_order;
     QWidget* m_lastFilter = nullptr;
     QPushButton* m_refresh = nullptr;
     QLabel* m_outdated = nullptr;

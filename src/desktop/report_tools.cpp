@@ -4,7 +4,6 @@
 #include "desktop/icons.h"
 #include "desktop/table_list.h"
 
-#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 
@@ -29,13 +28,6 @@ void chainTabs(std::initializer_list<QWidget*> widgets)
             QWidget::setTabOrder(last, widget);
         last = widget;
     }
-}
-
-void keepSortOrder(TableList& list)
-{
-    const QHeaderView& header = *list.horizontalHeader();
-    if (header.isSortIndicatorShown())
-        list.tableModel()->sort(header.sortIndicatorSection(), header.sortIndicatorOrder());
 }
 
 void setEmptyText(TableList& list, const QString& text)

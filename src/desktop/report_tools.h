@@ -16,9 +16,6 @@ class TableList;
 QPushButton* makeRefreshButton(QWidget* parent);
 // The Tab key goes from each to the next.
 void chainTabs(std::initializer_list<QWidget*> widgets);
-// The rows were read anew in the engine's own order: the order of the header that the user clicked comes
-// back.
-void keepSortOrder(TableList& list);
 void setEmptyText(TableList& list, const QString& text);
 
 } // namespace zelvor

@@ -24,6 +24,7 @@ TotalStrip::TotalStrip(TableList* list, int rows) : QWidget(list->parentWidget()
     list->installEventFilter(this);
     const auto redraw = [this] { update(); };
     connect(list->tableModel(), &QAbstractItemModel::modelReset, this, &TotalStrip::arrange);
+    connect(list->tableModel(), &QAbstractItemModel::dataChanged, this, redraw);
     connect(list->horizontalHeader(), &QHeaderView::sectionResized, this, redraw);
     connect(list->horizontalScrollBar(), &QScrollBar::valueChanged, this, redraw);
 }
@@ -65,7 +66,7 @@ void TotalStrip::arrange()
 bool TotalStrip::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Resize || event->type() == QEvent::FontChange)
-        arrange();
+        QMetaObject::invokeMethod(this, &TotalStrip::arrange, Qt::QueuedConnection); // the page is laid out
     return QWidget::eventFilter(watched, event);
 }
 
@@ -80,12 +81,13 @@ void TotalStrip::paintEvent(QPaintEvent*)
     option.initFrom(m_list);
     option.state = QStyle::State_Enabled | QStyle::State_Active;
     option.widget = m_list;
-    painter.setClipRect(0, 0, m_list->viewport()->width(), this->height());
+    const int left = m_list->viewport()->x();
+    painter.setClipRect(left, 0, m_list->viewport()->width(), this->height());
     for (int row = std::max(0, first); row < model.rowCount(); ++row) {
         for (int column = 0; column < model.columnCount(); ++column) {
             if (m_list->isColumnHidden(column))
                 continue;
-            option.rect = {m_list->columnViewportPosition(column), (row - first) * height,
+            option.rect = {left + m_list->columnViewportPosition(column), (row - first) * height,
                            m_list->columnWidth(column), height};
             m_list->itemDelegate()->paint(&painter, option, model.index(row, column));
         }
