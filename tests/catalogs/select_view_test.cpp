@@ -123,6 +123,31 @@ TEST_F(SelectView, theListsPutTheTicksBack)
     EXPECT_EQ(contragents.value(row(contragents, u"a"_s), u"selected"_s), QVariant(true));
 }
 
+TEST_F(SelectView, everythingOrNothingAtOnceIsAnEmptyFilter)
+{
+    storeSample<ContragentGroup, Contragent>();
+    contragents.contragentIDs = {2};
+    contragents.backUpdateSelections();
+    int reloads = 0;
+    contragents.onReload([&reloads] { ++reloads; });
+    contragents.tickAll(true);
+    EXPECT_EQ(contragents.value(row(contragents, u"Group"_s), u"selected"_s), QVariant(true));
+    EXPECT_EQ(contragents.value(row(contragents, u"a"_s), u"selected"_s), QVariant(true));
+    EXPECT_TRUE(contragents.contragentIDs.empty());
+    contragents.tickAll(false);
+    EXPECT_EQ(contragents.value(row(contragents, u"a"_s), u"selected"_s), QVariant(false));
+    EXPECT_EQ(reloads, 2);
+    tick(contragents, u"a"_s, true); // only that one now
+    EXPECT_EQ(contragents.contragentIDs, IDs{1});
+    EXPECT_TRUE(contragents.contragentTypeIDs.empty());
+
+    storeNamed<Stock>(u"Main"_s);
+    stocks.updateSelections();
+    stocks.tickAll(false);
+    EXPECT_EQ(stocks.value(0, u"selected"_s), QVariant(false));
+    EXPECT_TRUE(stocks.selectedStocks.empty());
+}
+
 TEST_F(SelectView, okHandsTheTickedIdsToTheOwnerWithItsLabelAndCloses)
 {
     storeSample<ContragentGroup, Contragent>();

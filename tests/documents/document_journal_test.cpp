@@ -276,6 +276,22 @@ TEST_F(Journal, sortsByItsFourKeysEitherWay)
     EXPECT_EQ(numbers(u"comment"_s, false), (Numbers{1, 3, 2})) << "no key of the list";
 }
 
+TEST_F(Journal, theSelectionStaysWithItsDocument)
+{
+    document<MoneyDocument>(MoneyAdd, now - 10, true, 30);
+    const auto second = document<MoneyDocument>(MoneyAdd, now - 20, true, 10);
+    const auto money = journal(u"Money"_s);
+    money->mainView.selectRow(0);
+    money->mainView.sort(u"sum"_s, false);
+    EXPECT_EQ(money->mainView.selectedRow(), 1);
+    document<MoneyDocument>(MoneyAdd, now - 30);
+    money->updateJournal();
+    EXPECT_EQ(money->mainView.selectedRow(), 1);
+    ASSERT_EQ(books.db.remove(*second), 1);
+    money->updateJournal();
+    EXPECT_EQ(money->mainView.selectedRow(), -1);
+}
+
 TEST_F(Journal, readsAnewAtOnceWhileVisibleOtherwiseWhenAsked)
 {
     const auto money = journal(u"Money"_s);
