@@ -89,6 +89,15 @@ void SelectionPopover::startAfresh()
 }
 
 // Return in the list is OK: its rows have nothing to open.
+// An open popover keeps the window's keys to itself; the search is its own here.
+void SelectionPopover::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Find))
+        startSearch();
+    else
+        PopoverPanel::keyPressEvent(event);
+}
+
 bool SelectionPopover::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_list && event->type() == QEvent::KeyPress) {

@@ -264,6 +264,19 @@ TEST_F(ContragentsPage, balancesAreRightAlignedAndColoured)
     EXPECT_TRUE(cell(u"Acme"_s, u"Balance"_s).data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
 }
 
+TEST_F(ContragentsPage, aClickOnTheHeadSortsByBalance)
+{
+    openSampleTree();
+    clickHeader(u"Balance"_s);
+    EXPECT_EQ(names(), u"Customers(Zeta Acme) Bank"_s);
+    clickHeader(u"Balance"_s);
+    EXPECT_EQ(names(), u"Bank Customers(Acme Zeta)"_s);
+    clickHeader(u"Name"_s);
+    EXPECT_EQ(names(), u"Bank Customers(Acme Zeta)"_s);
+    clickHeader(u"Name"_s);
+    EXPECT_EQ(names(), u"Customers(Zeta Acme) Bank"_s);
+}
+
 TEST_F(ContragentsPage, aTickHidesACounterpartyButNotItsRow)
 {
     openSampleTree();

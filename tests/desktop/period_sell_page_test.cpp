@@ -268,7 +268,7 @@ TEST_F(PeriodSellPageTest, theKeysOfTheMenuReachWhatIsInFront)
     EXPECT_EQ(names().size(), 6);
     shop.click(u"chooseProducts"_s);
     ticks()->setFocus();
-    QTest::keyClick(&shop.window(), Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F, Qt::ControlModifier);
     QWidget* const popover = shop.find(u"selectPopover"_s);
     EXPECT_TRUE(popover->isAncestorOf(QApplication::focusWidget()));
     EXPECT_EQ(QApplication::focusWidget()->objectName(), u"searchLine"_s);
