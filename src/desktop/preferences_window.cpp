@@ -125,8 +125,18 @@ void PreferencesWindow::layOut()
     auto* const rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
+    rows->addWidget(makeReadOnlyNote());
     rows->addWidget(scroll, 1);
     rows->addLayout(makeButtons());
+}
+
+QLabel* PreferencesWindow::makeReadOnlyNote()
+{
+    auto* const note = new QLabel;
+    note->setWordWrap(true);
+    note->setContentsMargins(measures::pageMargin, measures::pageMargin, measures::pageMargin, 0);
+    bind(m_controller.readOnlyWarning, note);
+    return note;
 }
 
 QBoxLayout* PreferencesWindow::makeButtons()
@@ -230,15 +240,13 @@ void PreferencesWindow::addLogo(QBoxLayout* column)
     bind(m_controller.logoPath, path);
     addWide(rows, path);
     auto* const choose = new QPushButton(lineIcon(u"open"_s), localized("Choose…"));
-    choose->setObjectName(u"openLogoFile"_s);
     choose->setAccessibleName(localized("Choose the logo file"));
     auto* const remove = new QPushButton(lineIcon(u"clear"_s), localized("Remove"));
-    remove->setObjectName(u"deletePathToImage"_s);
     remove->setAccessibleName(localized("Remove the logo"));
     for (QPushButton* const button : {choose, remove})
         button->setAutoDefault(false);
-    connect(choose, &QPushButton::clicked, this, [this] { m_controller.openLogoFile(); });
-    connect(remove, &QPushButton::clicked, this, [this] { m_controller.deletePathToImage(); });
+    bind(m_controller.openLogoButton, choose);
+    bind(m_controller.deleteLogoButton, remove);
     auto* const buttons = new QHBoxLayout;
     buttons->setSpacing(measures::rowGap);
     buttons->addWidget(choose);

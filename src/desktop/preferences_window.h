@@ -37,6 +37,7 @@ protected:
 
 private:
     void layOut();
+    QLabel* makeReadOnlyNote();
     QBoxLayout* makeButtons();
     QGridLayout* addGroup(QBoxLayout* column, const QString& title);
     QLineEdit* addText(QGridLayout* rows, TextField& field, const QString& label, const QString& name);

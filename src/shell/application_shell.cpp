@@ -41,7 +41,7 @@ bool ApplicationShell::openDefaultBusiness()
     const std::optional<QString> key = appDelegate.defaults.defaultBusiness();
     const QMap<QString, QString> businesses = appDelegate.defaults.businesses();
     const auto found = key ? businesses.find(*key) : businesses.end();
-    return found != businesses.end() && appDelegate.connector.open(*found);
+    return found != businesses.end() && startWindowController.openProjectFile(*found);
 }
 
 void ApplicationShell::openFile(const QString& path)

@@ -104,6 +104,7 @@ void ProjectSelectWindowController::leaveOpenProject(std::function<void()> then)
 void ProjectSelectWindowController::createAt(const QString& path)
 {
     if (!createProject(appDelegate.connector, path)) {
+        m_problem = appDelegate.connector.openError();
         reportUnopened(path);
         return;
     }
@@ -189,7 +190,7 @@ void ProjectSelectWindowController::openFile(const QString& path)
 void ProjectSelectWindowController::open(const QString& path, std::function<void(Opening)> then)
 {
     Connector& connector = appDelegate.connector;
-    if (connector.open(path)) {
+    if (openProjectFile(path)) {
         then(Opening::Opened);
         return;
     }
@@ -202,12 +203,24 @@ void ProjectSelectWindowController::open(const QString& path, std::function<void
                              localized("It can be opened for reading. Nothing can be changed then."),
                          {localized("Open Read-Only"), localized("Cancel")},
                          0};
-    appDelegate.dialogs.ask(question, [&connector, path, then = std::move(then)](int answer) {
+    appDelegate.dialogs.ask(question, [this, path, then = std::move(then)](int answer) {
         if (answer != firstButton)
             then(Opening::Cancelled);
         else
-            then(connector.open(path, Access::ReadOnly) ? Opening::Opened : Opening::Failed);
+            then(openProjectFile(path, Access::ReadOnly) ? Opening::Opened : Opening::Failed);
     });
+}
+
+bool ProjectSelectWindowController::openProjectFile(const QString& path, Access access)
+{
+    Connector& connector = appDelegate.connector;
+    const bool opened = connector.open(path, access);
+    m_problem = connector.openError();
+    if (!opened || appDelegate.params())
+        return opened;
+    connector.close();
+    m_problem = localized("%1 has no settings: it is no project, or it is damaged.").arg(path);
+    return false;
 }
 
 QString ProjectSelectWindowController::registerProject(const QString& path)
@@ -231,9 +244,10 @@ void ProjectSelectWindowController::projectOpened(const QString& key)
 
 void ProjectSelectWindowController::reportUnopened(const QString& path)
 {
-    const QString& reason = appDelegate.connector.openError();
-    appDelegate.dialogs.showAlert(
-        {localized("Can't open project file!"), reason.isEmpty() ? path : reason, {localized("Close")}, 0});
+    appDelegate.dialogs.showAlert({localized("Can't open project file!"),
+                                   m_problem.isEmpty() ? path : m_problem,
+                                   {localized("Close")},
+                                   0});
 }
 
 void ProjectSelectWindowController::offerToForget(const Business& business)
@@ -254,10 +268,13 @@ void ProjectSelectWindowController::deleteProject()
     const Business* selected = selectedBusiness();
     if (!selected)
         return;
+    const QString key = businessKey(selected->name);
     QMap<QString, QString> known = appDelegate.defaults.businesses();
-    known.remove(businessKey(selected->name));
+    known.remove(key);
     appDelegate.defaults.setBusinesses(known);
-    appDelegate.defaults.removeDefaultBusiness();
+    // Beside an open project the next start stays that one's, and its preferences keep their title.
+    if (!appDelegate.connector.isOpen() || appDelegate.defaults.defaultBusiness() == key)
+        appDelegate.defaults.removeDefaultBusiness();
     appDelegate.defaults.synchronize();
     initRecentBusinesses();
 }

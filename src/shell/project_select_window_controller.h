@@ -42,6 +42,9 @@ public:
     void openFile(const QString& path);
     void deleteProject();
 
+    // Opens a file to work in. One without a settings row is refused here, though it may be a sound file:
+    // there would be no window to show for it.
+    bool openProjectFile(const QString& path, Access access = Access::ReadWrite);
     // Puts a project among the known ones under its file's name and makes it the one to open at the next
     // start. Answers its key.
     QString registerProject(const QString& path);
@@ -60,6 +63,8 @@ private:
     void projectOpened(const QString& key);
     void reportUnopened(const QString& path);
     void offerToForget(const Business& business);
+
+    QString m_problem; // why nothing was opened or made
 };
 
 // The key of a project in the defaults: its name with "_" for blanks.

@@ -29,13 +29,49 @@ UserDefaultsController::UserDefaultsController(AppDelegate& owner) : ModelContro
 {
     defaultCurrencyWarning.setText(localized("Please select default currency for project"));
     defaultCurrencyWarning.setHidden(true);
+    readOnlyWarning.setText(localized("The project is open for reading only. Nothing can be changed."));
+    readOnlyWarning.setHidden(true);
     lastPeriodSaved.setEnabled(false);
     bindOutlets();
     changeButtonState();
 }
 
+std::vector<Outlet*> UserDefaultsController::editedOutlets()
+{
+    return {&reportPeriod,
+            &showCurrentBalanceCheck,
+            &currencySelect,
+            &maxDeferment,
+            &printCompanyLogoCheck,
+            &openLogoButton,
+            &deleteLogoButton,
+            &useVATCheck,
+            &vatRate,
+            &useGSTCheck,
+            &gstRate,
+            &useVATNoCheck,
+            &vatNo,
+            &companyName,
+            &companyAddress,
+            &companyCity,
+            &companyPhone,
+            &companyMail,
+            &companyDomain,
+            &printBankDetailsCheck,
+            &bankAccountName,
+            &bankAccountNumber,
+            &bankName,
+            &bankAddress,
+            &bankIBAN,
+            &bankSWIFT};
+}
+
 void UserDefaultsController::bindOutlets()
 {
+    for (Outlet* outlet : editedOutlets())
+        outlet->onUserChange = [this] { defaultsChanged(); };
+    openLogoButton.onUserChange = [this] { openLogoFile(); };
+    deleteLogoButton.onUserChange = [this] { deletePathToImage(); };
     applyButton.onUserChange = [this] { applyChanges(); };
     useVATCheck.onUserChange = [this] { selectVATUseChanged(); };
     useGSTCheck.onUserChange = [this] { selectGSTUseChanged(); };
@@ -50,12 +86,6 @@ void UserDefaultsController::bindOutlets()
             defaultsChanged();
         };
     }
-    for (Outlet* outlet : std::initializer_list<Outlet*>{
-             &reportPeriod, &showCurrentBalanceCheck, &currencySelect, &printCompanyLogoCheck, &useVATNoCheck,
-             &vatNo, &companyName, &companyAddress, &companyCity, &companyPhone, &companyMail, &companyDomain,
-             &printBankDetailsCheck, &bankAccountName, &bankAccountNumber, &bankName, &bankAddress, &bankIBAN,
-             &bankSWIFT})
-        outlet->onUserChange = [this] { defaultsChanged(); };
 }
 
 void UserDefaultsController::showWindow()
@@ -68,7 +98,20 @@ void UserDefaultsController::showWindow()
         currencySelect.setEnabled(true);
         currencySelect.selectTag(0);
     }
+    lockWhenReadOnly();
     window.open();
+}
+
+// Nothing is to be typed that could never be applied.
+void UserDefaultsController::lockWhenReadOnly()
+{
+    const bool editable = !appDelegate.connector.isReadOnly();
+    const bool currencyEditable = editable && currencySelect.enabled();
+    for (Outlet* outlet : editedOutlets())
+        outlet->setEnabled(editable);
+    currencySelect.setEnabled(currencyEditable);
+    readOnlyWarning.setHidden(editable);
+    changeButtonState();
 }
 
 void UserDefaultsController::initCurrencies()
@@ -145,7 +188,7 @@ qint64 UserDefaultsController::dateFromInt(qint64 period) const
 
 void UserDefaultsController::changeButtonState()
 {
-    applyButton.setEnabled(changed);
+    applyButton.setEnabled(changed && !appDelegate.connector.isReadOnly());
 }
 
 void UserDefaultsController::defaultsChanged()

@@ -4,6 +4,7 @@
 #include "store/model_controller.h"
 
 #include <functional>
+#include <vector>
 
 namespace zelvor {
 
@@ -27,10 +28,13 @@ public:
     CheckBox showCurrentBalanceCheck{QStringLiteral("showCurrentBalanceCheck")};
     PopUpButton currencySelect{QStringLiteral("currencySelect")}; // tags are raw values, 0 for none
     Label defaultCurrencyWarning{QStringLiteral("defaultCurrencyWarning")};
+    Label readOnlyWarning{QStringLiteral("readOnlyWarning")}; // nothing can be edited or applied
     NumberField maxDeferment{QStringLiteral("maxDeferment")};
     CheckBox printCompanyLogoCheck{QStringLiteral("printCompanyLogoCheck")};
     Label logoImageView{QStringLiteral("logoImageView")}; // a file's path, or "logo.png" for the resource
     Label logoPath{QStringLiteral("logoPath")};
+    Button openLogoButton{QStringLiteral("openLogoFile")};
+    Button deleteLogoButton{QStringLiteral("deletePathToImage")};
     CheckBox useVATCheck{QStringLiteral("useVATCheck")};
     NumberField vatRate{QStringLiteral("vatRate")};
     CheckBox useGSTCheck{QStringLiteral("useGSTCheck")};
@@ -77,6 +81,8 @@ public:
 
 private:
     void bindOutlets();
+    std::vector<Outlet*> editedOutlets();
+    void lockWhenReadOnly();
     void showTaxes(const Params& params);
     void showCompany(const Params& params);
     void showLogo();

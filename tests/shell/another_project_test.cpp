@@ -126,6 +126,18 @@ TEST_F(AnotherProject, isCreatedInPlaceOfTheOneThatIs)
     EXPECT_FALSE(shell.window.isOpen());
 }
 
+TEST_F(AnotherProject, thatIsForgottenLeavesTheOpenOneForTheNextStart)
+{
+    projects.tableView.selectRow(1);
+    projects.deleteProject();
+    EXPECT_EQ(program.defaults.defaultBusiness(), u"first"_s);
+    shell.showDefaults();
+    EXPECT_EQ(shell.preferences.windowTitle.text(), u"Parameters for first"_s);
+    projects.tableView.selectRow(0);
+    projects.deleteProject();
+    EXPECT_FALSE(program.defaults.defaultBusiness());
+}
+
 TEST_F(AnotherProject, tellsWhoeverShowsTheListThatItWasReadAnew)
 {
     int heard = 0;

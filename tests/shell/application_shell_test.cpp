@@ -45,6 +45,14 @@ protected:
         db.close();
         return path;
     }
+    void loseSettings(const QString& path)
+    {
+        Connector db;
+        ASSERT_TRUE(db.open(path));
+        Params params;
+        params.id = 1;
+        ASSERT_EQ(db.remove(params), 1);
+    }
     template <class Record>
     static Record named(const QString& name)
     {
@@ -161,6 +169,37 @@ TEST_F(Start, aMissingSettingsRowEndsQuietly)
     EXPECT_TRUE(program.dialogs.alerts.empty());
 }
 
+TEST_F(Start, aKnownProjectWithoutASettingsRowBringsUpTheProjectWindowAndIsToldThere)
+{
+    known(u"shop"_s);
+    loseSettings(program.file(u"shop.pdb"_s));
+    shell.openLastProject();
+    EXPECT_TRUE(projectWindowIsUp());
+    EXPECT_TRUE(program.dialogs.alerts.empty());
+    EXPECT_FALSE(program.appDelegate.connector.isOpen());
+
+    shell.startWindowController.tableView.selectRow(0);
+    shell.startWindowController.openProject();
+    ASSERT_EQ(program.dialogs.alerts.size(), 1U);
+    EXPECT_EQ(program.dialogs.alerts.front().messageText, u"Can't open project file!"_s);
+    EXPECT_TRUE(program.dialogs.alerts.front().informativeText.contains(u"has no settings"_s));
+    EXPECT_TRUE(projectWindowIsUp());
+    EXPECT_FALSE(program.appDelegate.connector.isOpen());
+    Connector other; // nothing holds the file
+    EXPECT_TRUE(other.open(program.file(u"shop.pdb"_s)));
+}
+
+TEST_F(Start, aFileHandedOverWithoutASettingsRowIsNoProject)
+{
+    const QString path = project(u"shop"_s);
+    loseSettings(path);
+    shell.openFile(path);
+    EXPECT_EQ(program.dialogs.lastAlert(), u"Can't open project file!"_s);
+    EXPECT_TRUE(projectWindowIsUp());
+    EXPECT_TRUE(program.defaults.businesses().isEmpty());
+    EXPECT_FALSE(program.defaults.defaultBusiness());
+}
+
 TEST_F(Start, aProjectMadeInTheProjectWindowGoesOnToThePreferences)
 {
     shell.openLastProject();
@@ -185,6 +224,23 @@ TEST_F(Start, anOpenedProjectHasItsMenu)
     known(u"shop"_s);
     shell.openLastProject();
     EXPECT_EQ(shell.mainMenuController.sourceListItems.size(), 6U);
+}
+
+TEST_F(Start, aProjectComesUpMenuFirstThenTheWindowTheBalanceAndTheQuestion)
+{
+    known(u"shop"_s);
+    QStringList steps;
+    shell.mainMenuController.onReload = [&] { steps += u"menu"_s; };
+    shell.window.onChange([&] { steps += u"window"_s; });
+    shell.mainWindowController.balance.setHidden(false);
+    shell.mainWindowController.balance.onChange([&] {
+        steps += u"balance"_s;
+        EXPECT_TRUE(program.dialogs.questions.empty());
+    });
+    shell.openLastProject();
+    EXPECT_EQ(shell.windowTitle.text(), u"shop"_s);
+    EXPECT_EQ(steps, (QStringList{u"menu"_s, u"window"_s, u"balance"_s}));
+    EXPECT_EQ(program.dialogs.questions.size(), 1U);
 }
 
 TEST_F(Start, openingAProjectReadsHardlyAnything)
@@ -274,6 +330,31 @@ TEST_F(Start, closingTheMainWindowTakesThePreferencesAlong)
     shell.showDefaults();
     shell.closeWindow();
     EXPECT_FALSE(shell.preferences.window.isOpen());
+}
+
+TEST_F(Start, closingTheMainWindowGoesStepByStepAndTheWindowLast)
+{
+    shell.openFile(project(u"shop"_s));
+    shell.mainWindowController.topMenuAction(DocType::StockCatalog);
+    const auto isOpen = [this] { return program.appDelegate.connector.isOpen(); };
+    const auto hasDefault = [this] { return program.defaults.defaultBusiness().has_value(); };
+    QStringList steps;
+    shell.startWindowController.window.onChange([&] {
+        steps += u"projects"_s;
+        EXPECT_TRUE(isOpen());
+    });
+    shell.mainWindowController.tabView.onPagesChanged = [&] {
+        steps += u"tabs"_s;
+        EXPECT_FALSE(isOpen());
+        EXPECT_TRUE(hasDefault());
+    };
+    shell.window.onChange([&] {
+        steps += u"window"_s;
+        EXPECT_FALSE(hasDefault());
+        EXPECT_FALSE(shell.window.isOpen());
+    });
+    shell.closeWindow();
+    EXPECT_EQ(steps, (QStringList{u"projects"_s, u"tabs"_s, u"window"_s}));
 }
 
 TEST_F(Start, closingTheMainWindowAsksAboutUnsavedDocuments)

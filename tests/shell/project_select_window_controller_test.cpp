@@ -119,6 +119,34 @@ TEST_F(ProjectWindow, aPathWithBlanksAndOtherLettersIsStoredAndOpenedAsItIs)
     EXPECT_EQ(opened, 2);
 }
 
+TEST_F(ProjectWindow, aFileWithBlanksInItsNameCanBeOpenedAgainAndForgotten)
+{
+    add(existing(u"my shop.pdb"_s));
+    EXPECT_EQ(names(), QStringList{u"my shop"_s});
+    EXPECT_EQ(program.defaults.defaultBusiness(), u"my_shop"_s);
+    program.appDelegate.connector.close();
+    ASSERT_TRUE(select(0));
+    window.openProject();
+    EXPECT_EQ(opened, 2);
+    program.appDelegate.connector.close();
+    ASSERT_TRUE(select(0));
+    window.deleteProject();
+    EXPECT_TRUE(names().isEmpty());
+}
+
+TEST_F(ProjectWindow, forgettingAProjectAsksNothingAndForgetsWhichOneToOpen)
+{
+    add(existing(u"first.pdb"_s));
+    add(existing(u"second.pdb"_s));
+    program.appDelegate.connector.close();
+    ASSERT_TRUE(select(0));
+    window.deleteProject();
+    EXPECT_EQ(names(), QStringList{u"second"_s});
+    EXPECT_FALSE(program.defaults.defaultBusiness());
+    EXPECT_TRUE(program.dialogs.questions.empty());
+    EXPECT_FALSE(window.openButton.enabled());
+}
+
 TEST_F(ProjectWindow, twoProjectsOfOneNameShareAnEntry)
 {
     QDir().mkpath(program.file(u"other"_s));

@@ -360,7 +360,7 @@ TEST_F(Preferences, aLogoIsChosenShownAndTakenAway)
     preferences.showWindow();
     EXPECT_TRUE(preferences.logoPath.text().isEmpty());
     EXPECT_EQ(preferences.logoImageView.text(), u"logo.png"_s);
-    preferences.openLogoFile(); // cancelled
+    EXPECT_TRUE(preferences.openLogoButton.userChanged()); // cancelled
     EXPECT_FALSE(preferences.changed);
     ASSERT_EQ(books.dialogs.openPanels.size(), 1U);
     EXPECT_EQ(books.dialogs.openPanels.front().nameLabel, u"Name"_s);
@@ -378,7 +378,7 @@ TEST_F(Preferences, aLogoIsChosenShownAndTakenAway)
 
     preferences.showWindow();
     EXPECT_EQ(preferences.logoImageView.text(), u"/pictures/my logo.png"_s);
-    preferences.deletePathToImage();
+    EXPECT_TRUE(preferences.deleteLogoButton.userChanged());
     EXPECT_TRUE(preferences.logoPath.text().isEmpty());
     EXPECT_EQ(preferences.logoImageView.text(), u"logo.png"_s);
     EXPECT_TRUE(preferences.changed);
@@ -429,6 +429,51 @@ TEST_F(Preferences, aRateOutsideOfZeroToAHundredIsNotApplied)
     type(preferences.gstRate, 0);
     apply();
     EXPECT_EQ(stored()->vatRate, 100);
+}
+
+TEST_F(Preferences, ofAProjectOpenForReadingAreShownAndCannotBeEdited)
+{
+    preferences.showWindow();
+    EXPECT_TRUE(preferences.readOnlyWarning.hidden());
+    type(preferences.companyName, u"never applied"_s);
+    preferences.closeWindow();
+    const QString path = books.db.path();
+    ASSERT_TRUE(books.db.open(path, Access::ReadOnly));
+    preferences.showWindow();
+    EXPECT_FALSE(preferences.readOnlyWarning.hidden());
+    EXPECT_EQ(preferences.readOnlyWarning.text(),
+              u"The project is open for reading only. Nothing can be changed."_s);
+    EXPECT_FALSE(preferences.companyName.userChanged());
+    EXPECT_FALSE(preferences.vatRate.userChanged());
+    EXPECT_FALSE(preferences.useVATCheck.userChanged());
+    EXPECT_FALSE(preferences.reportPeriod.userChanged());
+    EXPECT_FALSE(preferences.openLogoButton.userChanged());
+    EXPECT_FALSE(preferences.deleteLogoButton.userChanged());
+    EXPECT_FALSE(preferences.applyButton.userChanged());
+    preferences.closeWindow();
+    EXPECT_FALSE(preferences.window.isOpen());
+
+    ASSERT_TRUE(books.db.open(path));
+    preferences.showWindow();
+    EXPECT_TRUE(preferences.readOnlyWarning.hidden());
+    EXPECT_TRUE(preferences.companyName.enabled());
+    EXPECT_TRUE(preferences.applyButton.enabled());
+    EXPECT_FALSE(preferences.currencySelect.enabled());
+    EXPECT_FALSE(preferences.lastPeriodSaved.enabled());
+}
+
+TEST_F(Preferences, inAProjectOpenForReadingNoCurrencyCanBeChosen)
+{
+    books.changeParams([](Params& params) { params.defaultCurrency = 0; });
+    const QString path = books.db.path();
+    ASSERT_TRUE(books.db.open(path, Access::ReadOnly));
+    preferences.initial = true;
+    preferences.showWindow();
+    EXPECT_FALSE(preferences.currencySelect.enabled());
+    preferences.closeWindow();
+    EXPECT_TRUE(preferences.window.isOpen());
+    preferences.showProjectSelectWindow();
+    EXPECT_EQ(projectLeft, 1);
 }
 
 TEST_F(Preferences, withoutASettingsRowNothingIsFilledIn)
