@@ -36,6 +36,10 @@
         <translation> не найден по указанному пути. Удалить ненужную строку?</translation>
     </message>
     <message>
+        <source>%1 has no settings: it is no project, or it is damaged.</source>
+        <translation>%1 не содержит настроек: это не проект, или он повреждён.</translation>
+    </message>
+    <message>
         <source>'
 </source>
         <translation>»

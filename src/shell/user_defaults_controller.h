@@ -28,7 +28,7 @@ public:
     CheckBox showCurrentBalanceCheck{QStringLiteral("showCurrentBalanceCheck")};
     PopUpButton currencySelect{QStringLiteral("currencySelect")}; // tags are raw values, 0 for none
     Label defaultCurrencyWarning{QStringLiteral("defaultCurrencyWarning")};
-    Label readOnlyWarning{QStringLiteral("readOnlyWarning")}; // nothing can be edited or applied
+    Label readOnlyWarning{QStringLiteral("readOnlyWarning")}; // shown when nothing can be edited or applied
     NumberField maxDeferment{QStringLiteral("maxDeferment")};
     CheckBox printCompanyLogoCheck{QStringLiteral("printCompanyLogoCheck")};
     Label logoImageView{QStringLiteral("logoImageView")}; // a file's path, or "logo.png" for the resource
