@@ -2182,6 +2182,10 @@ or Open Existing… for a project file that you have.</source>
         <translation>Итого</translation>
     </message>
     <message>
+        <source>Totals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Transfer Between Accounts</source>
         <translation>Перевод между счетами</translation>
     </message>

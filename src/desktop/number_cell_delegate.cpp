@@ -68,17 +68,15 @@ void NumberCellDelegate::setEditorData(QWidget* editor, const QModelIndex& index
     line->selectAll();
 }
 
-void NumberCellDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
-                                      const QModelIndex& index) const
-{
-    const QString text = static_cast<QLineEdit*>(editor)->text();
-    if (isNumber(text))
-        model->setData(index, amountFromUserText(text, QLocale()).toText(), Qt::EditRole);
-}
-
 bool NumberCellDelegate::eventFilter(QObject* watched, QEvent* event)
 {
     auto* const line = qobject_cast<QLineEdit*>(watched);
+    if (line && event->type() == QEvent::FocusOut) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+            Q_EMIT left(line);
+        return false;
+    }
     if (!line || event->type() != QEvent::KeyPress)
         return ListDelegate::eventFilter(watched, event);
     const auto* const press = static_cast<QKeyEvent*>(event);
@@ -90,9 +88,7 @@ bool NumberCellDelegate::eventFilter(QObject* watched, QEvent* event)
         QToolTip::showText(line->mapToGlobal(QPoint(0, line->height())), line->toolTip(), line);
         return true;
     }
-    Q_EMIT commitData(line);
-    Q_EMIT closeEditor(line, NoHint);
-    Q_EMIT finished(key == Qt::Key_Enter ? Qt::Key_Return : key);
+    Q_EMIT finished(line, key == Qt::Key_Enter ? Qt::Key_Return : key);
     return true;
 }
 

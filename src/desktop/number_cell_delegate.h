@@ -2,11 +2,13 @@
 
 #include "desktop/list_delegate.h"
 
+class QLineEdit;
+
 namespace zelvor {
 
 // Edits the number cells of a list. "12,5" and "12.5" are taken in every locale; what is no number turns red,
-// says so, and is not stored: Enter and Tab stay on it. The list is told which key ended the editing, so that
-// it can go on to the next cell.
+// says so, and is not stored: Enter and Tab stay on it. The list itself ends the editing: storing a number
+// may read all rows anew, and the editor must be gone by then.
 class NumberCellDelegate : public ListDelegate {
     Q_OBJECT
 
@@ -19,11 +21,12 @@ public:
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override;
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
-    void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
 
 Q_SIGNALS:
-    // The number was stored; `key` is Return, Tab, Backtab, Up or Down.
-    void finished(int key) const;
+    // The number may be stored; `key` is Return, Tab, Backtab, Up or Down.
+    void finished(QLineEdit* editor, int key);
+    // The cursor went elsewhere while something stood in the cell, right or wrong.
+    void left(QLineEdit* editor);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -212,7 +212,8 @@ void ProductDocumentFields::addDeferment()
     QLineEdit* const edit = shortNumber(m_form.deferment, name);
     auto* const slider = new NumberSlider(m_form.deferment, m_form.mainView.params->maxDeferment,
                                           localized("Pay within, days, by a slider"));
-    slider->setVisible(slider->maximum() > 0);
+    if (slider->maximum() == 0)
+        slider->hide();
     QWidget* const field = sideBySide({edit, slider, plainLabel(localized("days"))});
     field->setObjectName(u"defermentField"_s);
     add(plainLabel(localized("Pay within")),

@@ -28,6 +28,8 @@
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QVBoxLayout>
 
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace zelvor {
@@ -257,7 +259,7 @@ void ProductDocumentPage::goToNextInput()
 // Back on a tab that was in work the cursor stands where it stood.
 void ProductDocumentPage::takeFocus()
 {
-    QWidget* const before = focusWidget();
+    QWidget* const before = std::exchange(m_begun, true) ? focusWidget() : nullptr;
     if (before && before != this && before->isEnabled() && before->isVisibleTo(this))
         before->setFocus(Qt::OtherFocusReason);
     else

@@ -62,6 +62,7 @@ private:
     QSplitter* m_splitter;
     ContragentChooser* m_chooser = nullptr; // made when it is first asked for
     bool m_paper = false;
+    bool m_begun = false; // was in front before
 };
 
 } // namespace zelvor

@@ -36,6 +36,7 @@ ProductEntryLine::ProductEntryLine(ProductDocumentViewController& form, QWidget*
     setAccessibleName(localized("Add a product by its name"));
     setPlaceholderText(localized("Type a product…"));
     setFrame(false);
+    setAcceptDrops(false); // the sheet takes what is dropped
     addAction(lineIcon(u"add"_s), QLineEdit::LeadingPosition);
     connect(this, &QLineEdit::textEdited, this, &ProductEntryLine::showMatches);
 }

@@ -1,5 +1,6 @@
 #include "desktop/product_rows_table.h"
 
+#include "core/formats.h"
 #include "core/localized.h"
 #include "desktop/list_columns.h"
 #include "desktop/measures.h"
@@ -22,9 +23,14 @@ ProductRowsTable::ProductRowsTable(TableView& view, const Calendar& calendar, QW
 {
     setObjectName(u"documentRows"_s);
     setAccessibleName(localized("Rows of the document"));
+    setEditTriggers(QAbstractItemView::NoEditTriggers); // editing starts in editCell() alone
     auto* const delegate = new NumberCellDelegate(this);
     setItemDelegate(delegate);
-    connect(delegate, &NumberCellDelegate::finished, this, &ProductRowsTable::goOn);
+    connect(delegate, &NumberCellDelegate::finished, this, [this](QLineEdit* editor, int key) {
+        takeNumber(editor);
+        goOn(key);
+    });
+    connect(delegate, &NumberCellDelegate::left, this, &ProductRowsTable::takeNumber);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     rowAction = [this](int) {
         editCurrent();
@@ -52,6 +58,7 @@ void ProductRowsTable::editCell(int viewRow, const QString& identifier)
         return;
     setFocus(Qt::OtherFocusReason);
     const QModelIndex cell = tableModel()->index(shown, column);
+    m_editedRow = viewRow;
     m_editedColumn = identifier;
     setCurrentIndex(cell);
     scrollTo(cell);
@@ -72,10 +79,21 @@ void ProductRowsTable::editCurrent()
         editCell(currentRow(), current.identifier);
 }
 
+// Ends the editing; a wrong number is dropped.
+void ProductRowsTable::takeNumber(QLineEdit* editor)
+{
+    const QModelIndex cell = tableModel()->index(tableModel()->shownRow(m_editedRow),
+                                                 tableModel()->columnWithIdentifier(m_editedColumn));
+    const QString text = editor->text();
+    closeEditor(editor, QAbstractItemDelegate::NoHint);
+    if (NumberCellDelegate::isNumber(text))
+        model()->setData(cell, amountFromUserText(text, QLocale()).toText(), Qt::EditRole);
+}
+
 // Behind a number that was stored.
 void ProductRowsTable::goOn(int key)
 {
-    const int row = shownView().selectedRow();
+    const int row = m_editedRow;
     const QString here = m_editedColumn;
     switch (key) {
     case Qt::Key_Up:
@@ -98,19 +116,24 @@ void ProductRowsTable::goOn(int key)
     }
 }
 
+// Those that were closed just now hang on until the event loop comes round.
+QLineEdit* ProductRowsTable::openEditor() const
+{
+    const auto editors = viewport()->findChildren<QLineEdit*>(u"cellEditor"_s);
+    const auto open = std::ranges::find(editors, false, &QWidget::isHidden);
+    return open == editors.end() ? nullptr : *open;
+}
+
 bool ProductRowsTable::finishEditing()
 {
-    if (!isEditing())
-        return true;
-    auto* const editor = viewport()->findChild<QLineEdit*>(u"cellEditor"_s);
+    QLineEdit* const editor = openEditor();
     if (!editor)
         return true;
     if (!NumberCellDelegate::isNumber(editor->text())) {
         editor->setFocus(Qt::OtherFocusReason);
         return false;
     }
-    commitData(editor);
-    closeEditor(editor, QAbstractItemDelegate::NoHint);
+    takeNumber(editor);
     return true;
 }
 
@@ -140,7 +163,7 @@ void ProductRowsTable::keyPressEvent(QKeyEvent* event)
     }
     if (!text.isEmpty() && text.front().isDigit() && currentRow() >= 0) {
         editCurrent();
-        if (auto* const editor = viewport()->findChild<QLineEdit*>(u"cellEditor"_s))
+        if (QLineEdit* const editor = openEditor())
             QCoreApplication::sendEvent(editor, event);
         return;
     }

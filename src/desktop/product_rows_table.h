@@ -2,6 +2,8 @@
 
 #include "desktop/table_list.h"
 
+class QLineEdit;
+
 namespace zelvor {
 
 // The rows of a product document. Enter in the amount goes to the price, Enter in the price leaves the table
@@ -14,7 +16,6 @@ public:
 
     // Puts the cursor into a cell of that view row; with the editor open.
     void editCell(int viewRow, const QString& identifier);
-    bool isEditing() const { return state() == EditingState; }
     // Stores what is being typed in a cell. False when that is no number: then the cursor stays there.
     bool finishEditing();
     // As high as the header and all rows: there is no empty ground below the last one.
@@ -33,12 +34,15 @@ protected:
 
 private:
     void editCurrent();
+    QLineEdit* openEditor() const; // null for none
+    void takeNumber(QLineEdit* editor);
     void goOn(int key);
     void fitNumbers();
     bool isEditable(int column) const;
 
     std::vector<QString> m_fittedColumns;
     bool m_fittedWithRows = false;
+    int m_editedRow = -1;   // of the view
     QString m_editedColumn; // the model is read anew behind every number
 };
 

@@ -710,6 +710,116 @@ TEST(ProductForm, aCounterpartyIsChosenByADoubleClick)
     EXPECT_EQ(form->document->contragentID, other->id);
 }
 
+TEST(ProductForm, whatIsDraggedIsToldBeforeItFallsAndIsSelectedAfter)
+{
+    TeaShop shop;
+    ProductGroup group;
+    group.name = u"Drinks"_s;
+    const auto drinks = shop.store(group);
+    const auto form = shop.form(DocType::BuyProduct);
+    ProductDocumentView& view = form->mainView;
+    EXPECT_TRUE(view.validateDrop(shop.tea->getIdentifierForDragging()));
+    EXPECT_FALSE(view.validateDrop(drinks->getIdentifierForDragging()));
+    EXPECT_FALSE(view.validateDrop(u"nonsense"_s));
+    EXPECT_FALSE(view.deleteSelectedRowsButton.enabled());
+    EXPECT_TRUE(view.acceptDrop(shop.cup->getIdentifierForDragging()));
+    EXPECT_TRUE(view.acceptDrop(shop.tea->getIdentifierForDragging()));
+    EXPECT_EQ(view.selectedRow(), 1);
+    EXPECT_TRUE(view.acceptDrop(shop.cup->getIdentifierForDragging()));
+    EXPECT_EQ(view.selectedRow(), 0);
+    EXPECT_TRUE(view.deleteSelectedRowsButton.enabled());
+    view.selectRow(-1);
+    view.selectionChanged();
+    EXPECT_FALSE(view.deleteSelectedRowsButton.enabled());
+    form->document->confirmed = true;
+    EXPECT_FALSE(view.validateDrop(shop.tea->getIdentifierForDragging()));
+}
+
+TEST(ProductForm, theResponsibleEmployeeIsChosenAmongThoseWhoAreNotHidden)
+{
+    TeaShop shop;
+    const auto zoe = shop.employee(u"Zoe"_s);
+    const auto ann = shop.employee(u"Ann"_s);
+    Manager gone;
+    gone.name = u"Left"_s;
+    gone.isHidden = true;
+    const auto left = shop.store(gone);
+    const auto form = shop.form(DocType::SellProduct);
+    ProductDocumentView& view = form->mainView;
+    view.prepareManagers();
+    QStringList names;
+    for (const PopUpButton::Item& item : view.managerSelect.items())
+        names.append(item.title);
+    EXPECT_EQ(names.join(u'|'), u"|Ann|Zoe"_s);
+    ASSERT_TRUE(view.managerSelect.selectTag(zoe->id));
+    ASSERT_TRUE(view.managerSelect.userChanged());
+    EXPECT_EQ(form->document->managerID, zoe->id);
+    EXPECT_TRUE(view.saveButton.enabled());
+    EXPECT_TRUE(form->setManagerFromID(ann->id));
+    EXPECT_EQ(view.managerSelect.selectedTag(), ann->id);
+    EXPECT_FALSE(form->setManagerFromID(left->id));
+    EXPECT_EQ(view.managerSelect.selectedTag(), 0);
+}
+
+TEST(ProductForm, aDraftIsDeletedWhenTheUserSaysSo)
+{
+    TeaShop shop;
+    const auto form = shop.formWithTea(DocType::SellProduct, 2, 7);
+    form->askDeleteDoc();
+    EXPECT_TRUE(shop.dialogs.questions.empty()); // nothing is stored yet
+    ASSERT_TRUE(form->writeDoc());
+    shop.dialogs.answers = {firstButton + 1};
+    EXPECT_TRUE(form->mainView.deleteDocButton.userChanged());
+    ASSERT_EQ(shop.dialogs.questions.size(), 1u);
+    EXPECT_EQ(shop.dialogs.questions.front().messageText, u"Delete this document?"_s);
+    EXPECT_EQ(shop.dialogs.questions.front().buttons, (QStringList{u"Delete"_s, u"Cancel"_s}));
+    EXPECT_TRUE(shop.read(*form->document));
+    const qint64 id = form->document->id;
+    shop.dialogs.answers = {firstButton};
+    EXPECT_TRUE(form->mainView.deleteDocButton.userChanged());
+    EXPECT_FALSE(shop.db.select<ProductDocument>(id));
+}
+
+TEST(ProductForm, anAnswerThatComesAfterTheFormHasGoneDoesNothing)
+{
+    TeaShop shop;
+    auto form = shop.formWithTea(DocType::SellProduct, 2, 7);
+    ASSERT_TRUE(form->writeDoc());
+    const qint64 id = form->document->id;
+    form->askDeleteDoc();
+    ASSERT_EQ(shop.dialogs.unanswered.size(), 1u);
+    form.reset();
+    shop.dialogs.unanswered.front()(firstButton);
+    EXPECT_TRUE(shop.db.select<ProductDocument>(id));
+}
+
+TEST(ProductForm, nothingCanBeChangedInAProjectThatIsOpenForReading)
+{
+    TeaShop shop;
+    const auto draft = shop.formWithTea(DocType::SellProduct, 2, 7);
+    ASSERT_TRUE(draft->writeDoc());
+    const qint64 id = draft->document->id;
+    const QString path = shop.db.path();
+    shop.db.close();
+    ASSERT_TRUE(shop.db.open(path, Access::ReadOnly));
+    const auto form = shop.reopen(id);
+    EXPECT_FALSE(form->isEditable());
+    ProductDocumentView& view = form->mainView;
+    for (const Outlet* outlet :
+         {static_cast<Outlet*>(&view.date), static_cast<Outlet*>(&view.comment),
+          static_cast<Outlet*>(&view.stockFromSelect), static_cast<Outlet*>(&view.contragentField),
+          static_cast<Outlet*>(&view.managerSelect), static_cast<Outlet*>(&form->shipment),
+          static_cast<Outlet*>(&view.saveButton), static_cast<Outlet*>(&view.confirmButton),
+          static_cast<Outlet*>(&view.deleteDocButton)})
+        EXPECT_FALSE(outlet->enabled()) << qPrintable(outlet->name());
+    EXPECT_EQ(form->addProductFromID(shop.tea->id), -1);
+    EXPECT_FALSE(view.setValue(0, u"amount"_s, 5));
+    EXPECT_FALSE(view.setStockFromID(shop.shop->id));
+    EXPECT_FALSE(form->writeDoc());
+    for (const ViewColumn& column : view.columns())
+        EXPECT_FALSE(column.editable) << qPrintable(column.identifier);
+}
+
 TEST(ProductForm, makingADocumentReadsNoWholeCatalog)
 {
     TeaShop shop;
