@@ -203,6 +203,7 @@ void Commands::addEditMenu()
 void Commands::addViewMenu()
 {
     QMenu* const menu = addMenu(localized("View"));
+    m_viewMenu = menu;
     m_toggleLeft = add(menu, "toggleLeftView", localized("Collapse Left Pane"), QKeySequence(Qt::Key_F9),
                        [this] { m_shell.mainWindowController.toggleLeftViewButton.userChanged(); });
     addAppearanceMenu(menu);
@@ -338,11 +339,18 @@ void Commands::update()
         entry.action->setEnabled(page && page->can(entry.command));
     updateTabs();
     updateEditing();
-    const bool collapsed = m_shell.mainWindowController.toggleLeftViewButton.isOn();
-    m_toggleLeft->setText(collapsed ? localized("Show Left Pane") : localized("Collapse Left Pane"));
+    updateLeftPane();
     m_fullScreen->setChecked(m_window.isFullScreen());
-    if (auto* const view = qobject_cast<QMenu*>(m_toggleLeft->parent()))
-        assignMnemonics(view);
+}
+
+void Commands::updateLeftPane()
+{
+    const bool collapsed = m_shell.mainWindowController.toggleLeftViewButton.isOn();
+    if (collapsed == m_saysShow)
+        return;
+    m_saysShow = collapsed;
+    m_toggleLeft->setText(collapsed ? localized("Show Left Pane") : localized("Collapse Left Pane"));
+    assignMnemonics(m_viewMenu);
 }
 
 void Commands::updateTabs()

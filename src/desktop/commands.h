@@ -70,6 +70,7 @@ private:
     int activeTab() const;
     void updateTabs();
     void updateEditing();
+    void updateLeftPane();
     void followFocus(QWidget* now);
     void edit(const char* method);
 
@@ -81,11 +82,13 @@ private:
     std::vector<EditAction> m_editActions;
     std::vector<QMenu*> m_typeMenus;
     std::vector<QAction*> m_tabActions;
+    QMenu* m_viewMenu = nullptr;
     QMenu* m_tabMenu = nullptr;
     QAction* m_closeTab = nullptr;
     QAction* m_nextTab = nullptr;
     QAction* m_previousTab = nullptr;
     QAction* m_toggleLeft = nullptr;
+    bool m_saysShow = false; // m_toggleLeft's text
     QAction* m_fullScreen = nullptr;
     QPointer<QWidget> m_editor; // what the entries of Edit work on
 };

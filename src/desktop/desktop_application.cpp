@@ -14,6 +14,12 @@ void bringToFront(QWidget& window)
     window.activateWindow();
 }
 
+// QApplication::quit() would first close each window, and closing the main window means leaving the project.
+void endEventLoop()
+{
+    QApplication::exit(0);
+}
+
 } // namespace
 
 DesktopApplication::DesktopApplication(AppDelegate& owner, DesktopSettings& desktopSettings)
@@ -53,7 +59,7 @@ void DesktopApplication::start(const QString& path)
 
 void DesktopApplication::quit()
 {
-    shell.quit([] { QApplication::quit(); });
+    shell.quit(endEventLoop);
 }
 
 bool DesktopApplication::sessionEnds(bool mayAsk)
@@ -68,7 +74,7 @@ bool DesktopApplication::sessionEnds(bool mayAsk)
     shell.quit([leaving] {
         leaving->done = true;
         if (leaving->asked)
-            QApplication::quit();
+            endEventLoop();
     });
     leaving->asked = !leaving->done;
     return leaving->done;

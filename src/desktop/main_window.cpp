@@ -120,6 +120,10 @@ void MainWindow::listen()
         if (self)
             self->showOrHide();
     });
+    m_workspace.toggleLeftViewButton.onChange([self] {
+        if (self)
+            self->m_commands->update();
+    });
     m_shell.windowTitle.onChange([self] {
         if (self)
             self->showTitle();
@@ -145,6 +149,8 @@ void MainWindow::showOrHide()
     showTitle();
     restoreState();
     show();
+    if (!isMaximized() && !isFullScreen())
+        moveOntoScreen(*this); // its frame is known now
     focusPage();
 }
 
@@ -185,7 +191,7 @@ void MainWindow::setLeftViewCollapsed(bool collapsed)
     m_menuTree->setVisible(!collapsed);
     if (!collapsed)
         m_splitter->setSizes({MainViewController::leftViewWidth, m_splitter->width()});
-    m_commands->update();
+    m_splitter->refresh(); // the page has its width now, not at the next turn of the loop
 }
 
 void MainWindow::showAbout()

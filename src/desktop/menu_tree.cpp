@@ -38,7 +38,7 @@ MenuTree::MenuTree(MainMenuController& controller, QWidget* parent)
     setHeaderHidden(true);
     setFrameShape(QFrame::NoFrame);
     setIconSize({measures::menuIcon, measures::menuIcon});
-    setIndentation(measures::groupGap);
+    setIndentation(measures::pageMargin);
     setUniformRowHeights(false);
     setTextElideMode(Qt::ElideRight);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -135,10 +135,11 @@ void MenuTree::setClosedGroups(const QByteArray& groups)
 
 void MenuTree::contextMenuEvent(QContextMenuEvent* event)
 {
-    QMenu menu;
-    menu.addAction(localized("Expand All"), this, [this] { m_controller.expandAll(); });
-    menu.addAction(localized("Collapse All"), this, [this] { m_controller.collapseAll(); });
-    menu.exec(event->globalPos());
+    auto* const menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addAction(localized("Expand All"), this, [this] { m_controller.expandAll(); });
+    menu->addAction(localized("Collapse All"), this, [this] { m_controller.collapseAll(); });
+    menu->popup(event->globalPos());
 }
 
 void MenuTree::keyPressEvent(QKeyEvent* event)

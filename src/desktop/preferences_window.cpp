@@ -102,10 +102,11 @@ void PreferencesWindow::layOut()
     columns->setContentsMargins(measures::pageMargin, measures::pageMargin, measures::pageMargin,
                                 measures::pageMargin);
     columns->setSpacing(2 * measures::groupGap);
-    auto* const left = new QVBoxLayout;
-    auto* const right = new QVBoxLayout;
-    for (QVBoxLayout* const column : {left, right}) {
-        column->setSpacing(measures::groupGap);
+    auto* const left = new QGridLayout;
+    auto* const right = new QGridLayout;
+    for (QGridLayout* const column : {left, right}) {
+        column->setSpacing(measures::rowGap);
+        column->setColumnStretch(1, 1);
         columns->addLayout(column, 1);
     }
     addCurrency(left);
@@ -114,8 +115,8 @@ void PreferencesWindow::layOut()
     addTaxes(right);
     addDocuments(right);
     addBank(right);
-    left->addStretch(1);
-    right->addStretch(1);
+    for (QGridLayout* const column : {left, right})
+        column->setRowStretch(column->rowCount(), 1);
 
     auto* const scroll = new QScrollArea; // on a small screen the buttons below stay
     scroll->setFrameShape(QFrame::NoFrame);
@@ -164,15 +165,12 @@ QBoxLayout* PreferencesWindow::makeButtons()
     return row;
 }
 
-QGridLayout* PreferencesWindow::addGroup(QBoxLayout* column, const QString& title)
+void PreferencesWindow::addGroup(QGridLayout* rows, const QString& title)
 {
-    auto* const rows = new QGridLayout;
-    rows->setHorizontalSpacing(measures::rowGap);
-    rows->setVerticalSpacing(measures::rowGap);
-    rows->setColumnStretch(1, 1);
-    rows->addWidget(makeHeading(title, font()), 0, 0, 1, 2);
-    column->addLayout(rows);
-    return rows;
+    auto* const heading = makeHeading(title, font());
+    const bool first = rows->isEmpty();
+    heading->setContentsMargins(0, first ? 0 : measures::groupGap - measures::rowGap, 0, 0);
+    addWide(rows, heading);
 }
 
 QLineEdit* PreferencesWindow::addText(QGridLayout* rows, TextField& field, const QString& label,
@@ -203,9 +201,9 @@ void PreferencesWindow::addCheck(QGridLayout* rows, CheckBox& box, const QString
     addWide(rows, check);
 }
 
-void PreferencesWindow::addCurrency(QBoxLayout* column)
+void PreferencesWindow::addCurrency(QGridLayout* rows)
 {
-    QGridLayout* const rows = addGroup(column, localized("Currency"));
+    addGroup(rows, localized("Currency"));
     m_currency = new QComboBox;
     bind(m_controller.currencySelect, m_currency, localized("Default currency"));
     addLabelled(rows, localized("Default currency"), m_currency);
@@ -215,9 +213,9 @@ void PreferencesWindow::addCurrency(QBoxLayout* column)
     addWide(rows, warning);
 }
 
-void PreferencesWindow::addCompany(QBoxLayout* column)
+void PreferencesWindow::addCompany(QGridLayout* rows)
 {
-    QGridLayout* const rows = addGroup(column, localized("Company"));
+    addGroup(rows, localized("Company"));
     m_companyName = addText(rows, m_controller.companyName, localized("Name"), localized("Company name"));
     addText(rows, m_controller.companyAddress, localized("Address"), localized("Company address"));
     addText(rows, m_controller.companyCity, localized("City"), localized("Company city"));
@@ -226,9 +224,9 @@ void PreferencesWindow::addCompany(QBoxLayout* column)
     addText(rows, m_controller.companyDomain, localized("Web site"), localized("Company web site"));
 }
 
-void PreferencesWindow::addLogo(QBoxLayout* column)
+void PreferencesWindow::addLogo(QGridLayout* rows)
 {
-    QGridLayout* const rows = addGroup(column, localized("Logo"));
+    addGroup(rows, localized("Logo"));
     m_logo = new QLabel;
     m_logo->setObjectName(m_controller.logoImageView.name());
     m_logo->setAccessibleName(localized("Logo"));
@@ -238,7 +236,6 @@ void PreferencesWindow::addLogo(QBoxLayout* column)
     addWide(rows, m_logo);
     auto* const path = new ElidedLabel;
     bind(m_controller.logoPath, path);
-    addWide(rows, path);
     auto* const choose = new QPushButton(lineIcon(u"open"_s), localized("Choose…"));
     choose->setAccessibleName(localized("Choose the logo file"));
     auto* const remove = new QPushButton(lineIcon(u"clear"_s), localized("Remove"));
@@ -251,7 +248,7 @@ void PreferencesWindow::addLogo(QBoxLayout* column)
     buttons->setSpacing(measures::rowGap);
     buttons->addWidget(choose);
     buttons->addWidget(remove);
-    buttons->addStretch(1);
+    buttons->addWidget(path, 1);
     rows->addLayout(buttons, rows->rowCount(), 0, 1, 2);
     addCheck(rows, m_controller.printCompanyLogoCheck, localized("Print the logo on forms"));
     const QPointer<PreferencesWindow> self(this);
@@ -262,9 +259,9 @@ void PreferencesWindow::addLogo(QBoxLayout* column)
     showLogo();
 }
 
-void PreferencesWindow::addTaxes(QBoxLayout* column)
+void PreferencesWindow::addTaxes(QGridLayout* rows)
 {
-    QGridLayout* const rows = addGroup(column, localized("Taxes"));
+    addGroup(rows, localized("Taxes"));
     addCheck(rows, m_controller.useVATCheck, localized("The company pays VAT"));
     addNumber(rows, m_controller.vatRate, localized("VAT rate, %"), 2);
     addCheck(rows, m_controller.useVATNoCheck, localized("Print the VAT number on forms"));
@@ -273,9 +270,9 @@ void PreferencesWindow::addTaxes(QBoxLayout* column)
     addNumber(rows, m_controller.gstRate, localized("GST rate, %"), 2);
 }
 
-void PreferencesWindow::addDocuments(QBoxLayout* column)
+void PreferencesWindow::addDocuments(QGridLayout* rows)
 {
-    QGridLayout* const rows = addGroup(column, localized("Documents and reports"));
+    addGroup(rows, localized("Documents and reports"));
     addReportPeriod(rows);
     addNumber(rows, m_controller.maxDeferment, localized("Longest deferment, days"), 0);
     addCheck(rows, m_controller.showCurrentBalanceCheck, localized("Show the current balance at the foot"));
@@ -316,9 +313,9 @@ void PreferencesWindow::addLastPeriod(QGridLayout* rows)
     addLabelled(rows, localized("Last closed month"), month);
 }
 
-void PreferencesWindow::addBank(QBoxLayout* column)
+void PreferencesWindow::addBank(QGridLayout* rows)
 {
-    QGridLayout* const rows = addGroup(column, localized("Bank"));
+    addGroup(rows, localized("Bank"));
     addText(rows, m_controller.bankAccountName, localized("Account holder"), localized("Account holder"));
     addText(rows, m_controller.bankAccountNumber, localized("Account number"), localized("Account number"));
     addText(rows, m_controller.bankName, localized("Bank"), localized("Bank name"));

@@ -39,7 +39,8 @@ StartPage::StartPage(MainViewController& workspace, QWidget* parent) : QWidget(p
 
 QPushButton* StartPage::addButton(const char* name, DocType type, const QString& text, QVBoxLayout* rows)
 {
-    auto* const button = new QPushButton(lineIcon(docTypeImage(type)), text);
+    auto* const button = new QPushButton(lineIcon(docTypeImage(type)), u'\u2002' + text);
+    button->setAccessibleName(text);
     button->setObjectName(QString::fromLatin1(name));
     button->setIconSize({measures::toolIcon, measures::toolIcon});
     button->setMinimumSize(fontMetrics().averageCharWidth() * 34, fontMetrics().height() * 3);

@@ -19,7 +19,8 @@ namespace {
 
 constexpr double closeSize = 12;
 constexpr double titleHeight = 14;
-constexpr double titleBottom = 4; // above the tab's lower edge
+constexpr double titleBottom = 4;  // above the tab's lower edge
+constexpr double titlePadding = 2; // inside the title's own place
 constexpr double leastContrast = 4.5;
 
 // Grey levels of the tab's ground, from its lower edge up.
@@ -158,7 +159,7 @@ void TabStrip::drawTitle(QPainter& painter, const TabViewHeaderTab& tab) const
 {
     const Shade shade = shadeOf(tab.position == activeTab(), isDark(palette()));
     const QFont font = noteFont(this->font());
-    const QRectF rect = titleRect(tab.position);
+    const QRectF rect = titleRect(tab.position).adjusted(titlePadding, 0, 0, 0);
     const QString title = QFontMetricsF(font).elidedText(tab.title, Qt::ElideRight, rect.width());
     painter.setFont(font);
     painter.setPen(legible(textColor(tab.titleColor, palette()), grey((shade.bottom + shade.top) / 2)));

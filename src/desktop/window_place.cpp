@@ -25,11 +25,15 @@ void restorePlace(QWidget& window, const DesktopSettings& settings, const QStrin
 void moveOntoScreen(QWidget& window)
 {
     const QRect room = window.screen()->availableGeometry();
-    const QSize size = window.size().boundedTo(room.size());
+    const QSize frame = window.frameGeometry().size() - window.size();
+    const QSize size = window.size().boundedTo(room.size() - frame);
     if (size != window.size())
         window.resize(size);
-    const int x = std::clamp(window.x(), room.left(), std::max(room.left(), room.right() + 1 - size.width()));
-    const int y = std::clamp(window.y(), room.top(), std::max(room.top(), room.bottom() + 1 - size.height()));
+    const QSize whole = size + frame;
+    const int x =
+        std::clamp(window.x(), room.left(), std::max(room.left(), room.right() + 1 - whole.width()));
+    const int y =
+        std::clamp(window.y(), room.top(), std::max(room.top(), room.bottom() + 1 - whole.height()));
     if (QPoint(x, y) != window.pos())
         window.move(x, y);
 }

@@ -3,6 +3,7 @@
 #include "desktop/icons.h"
 #include "desktop/termination_signals.h"
 #include "desktop/theme.h"
+#include "desktop/translations.h"
 
 #include <QtCore/QStandardPaths>
 #include <QtCore/QTimeZone>
@@ -82,6 +83,7 @@ int main(int argc, char* argv[])
     nameProgram();
     zelvor::loadDesktopResources();
     zelvor::DesktopSettings settings(settingsPath());
+    zelvor::installTranslations(application, settings.language());
     zelvor::applyAppearance(application, settings.appearance());
     return run(application, settings);
 }
