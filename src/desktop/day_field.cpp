@@ -10,6 +10,7 @@
 #include <QtGui/QAction>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QTextCharFormat>
 #include <QtWidgets/QCalendarWidget>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QWidgetAction>
@@ -127,6 +128,10 @@ void DayField::openCalendar()
     calendar->setObjectName(u"calendar"_s);
     calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     calendar->setSelectedDate(m_day);
+    QTextCharFormat weekend; // the platform's red is too dim on dark ground
+    weekend.setForeground(textColor(redColor, QGuiApplication::palette()));
+    for (const auto day : {Qt::Saturday, Qt::Sunday})
+        calendar->setWeekdayTextFormat(day, weekend);
     auto* const holder = new QWidgetAction(menu);
     holder->setDefaultWidget(calendar);
     menu->addAction(holder);

@@ -14,8 +14,10 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace zelvor {
 
-SelectionPopover::SelectionPopover(Popover& outlet, QWidget* host) : PopoverPanel(outlet, host)
+SelectionPopover::SelectionPopover(Popover& outlet, QWidget* host)
+    : PopoverPanel(outlet, host), m_popover(outlet), m_page(host)
 {
+    host->installEventFilter(this);
     const QPointer<SelectionPopover> self(this);
     outlet.onChange([self, &outlet] {
         if (self && outlet.isOpen())
@@ -88,8 +90,7 @@ void SelectionPopover::startAfresh()
         tree->expandToDepth(0);
 }
 
-// Return in the list is OK: its rows have nothing to open.
-// An open popover keeps the window's keys to itself; the search is its own here.
+// The keys of the window wait while a popover is open; this one has its own search.
 void SelectionPopover::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Find))
@@ -98,6 +99,7 @@ void SelectionPopover::keyPressEvent(QKeyEvent* event)
         PopoverPanel::keyPressEvent(event);
 }
 
+// Return in the list is OK: its rows have nothing to open.
 bool SelectionPopover::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_list && event->type() == QEvent::KeyPress) {
@@ -107,6 +109,9 @@ bool SelectionPopover::eventFilter(QObject* watched, QEvent* event)
             return true;
         }
     }
+    // It does not stay behind on another page.
+    if (watched == m_page && event->type() == QEvent::Hide && !event->spontaneous())
+        m_popover.close();
     return PopoverPanel::eventFilter(watched, event);
 }
 

@@ -49,6 +49,8 @@ private:
     QPushButton* tickButton(const QString& objectName, const QString& text, bool on);
     void startAfresh();
 
+    Popover& m_popover;
+    QWidget* m_page;
     Label m_title{QStringLiteral("selectionTitle")};
     QAbstractItemView* m_list = nullptr;
     SearchLine* m_search = nullptr;

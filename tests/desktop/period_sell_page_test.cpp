@@ -267,11 +267,24 @@ TEST_F(PeriodSellPageTest, theKeysOfTheMenuReachWhatIsInFront)
     QTest::keyClick(&shop.window(), Qt::Key_F5);
     EXPECT_EQ(names().size(), 6);
     shop.click(u"chooseProducts"_s);
-    ticks()->setFocus();
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F, Qt::ControlModifier);
     QWidget* const popover = shop.find(u"selectPopover"_s);
+    ticks()->setFocus();
+    shop.pressKey(Qt::Key_F, Qt::ControlModifier);
     EXPECT_TRUE(popover->isAncestorOf(QApplication::focusWidget()));
     EXPECT_EQ(QApplication::focusWidget()->objectName(), u"searchLine"_s);
+    EXPECT_FALSE(shop.page()->can(PageCommand::Refresh));
+    ticks()->setFocus();
+    shop.page()->perform(PageCommand::Find); // from the menu bar
+    EXPECT_TRUE(popover->isAncestorOf(QApplication::focusWidget()));
+}
+
+TEST_F(PeriodSellPageTest, aPopoverDoesNotStayBehindOnAnotherPage)
+{
+    shop.click(u"chooseProducts"_s);
+    shop.workspace().topMenuAction(DocType::BalanceSheet);
+    EXPECT_EQ(shop.find(u"selectPopover"_s), nullptr);
+    shop.click(u"groupCheckBox"_s); // nothing lies over the page
+    EXPECT_TRUE(shop.widget<QCheckBox>(u"groupCheckBox"_s)->isChecked());
 }
 
 TEST_F(PeriodSellPageTest, theTotalStaysInSightOfALongReport)
