@@ -2183,7 +2183,7 @@ or Open Existing… for a project file that you have.</source>
     </message>
     <message>
         <source>Totals</source>
-        <translation type="unfinished"></translation>
+        <translation>Итоги</translation>
     </message>
     <message>
         <source>Transfer Between Accounts</source>
