@@ -1,7 +1,8 @@
 #include "desktop/paper_field.h"
 
+#include "desktop/elided_label.h"
+
 #include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QLabel>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -14,7 +15,7 @@ constexpr int fieldIndent = 5; // of the text inside a line with a frame
 } // namespace
 
 PaperField::PaperField(QWidget* edit, std::function<QString()> text, Qt::Alignment alignment)
-    : m_edit(edit), m_holder(new QWidget(this)), m_text(new QLabel(this)), m_textOf(std::move(text))
+    : m_edit(edit), m_holder(new QWidget(this)), m_text(new ElidedLabel(this)), m_textOf(std::move(text))
 {
     auto* const inside = new QHBoxLayout(m_holder);
     inside->setContentsMargins(0, 0, 0, 0);
@@ -24,8 +25,6 @@ PaperField::PaperField(QWidget* edit, std::function<QString()> text, Qt::Alignme
     layout->addWidget(m_holder);
     layout->addWidget(m_text);
     m_text->setObjectName(edit->objectName() + u"Text"_s);
-    m_text->setTextFormat(Qt::PlainText);
-    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_text->setAlignment(alignment | Qt::AlignVCenter);
     m_text->setContentsMargins(fieldIndent, 0, fieldIndent, 0);
     m_text->setMinimumHeight(edit->sizeHint().height());
@@ -36,10 +35,8 @@ PaperField::PaperField(QWidget* edit, std::function<QString()> text, Qt::Alignme
 
 void PaperField::setPaper(bool paper)
 {
-    if (paper) {
+    if (paper)
         m_text->setText(m_textOf());
-        m_text->setToolTip(m_text->text().toHtmlEscaped());
-    }
     m_holder->setVisible(!paper);
     m_text->setVisible(paper);
 }

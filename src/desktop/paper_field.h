@@ -4,9 +4,9 @@
 
 #include <functional>
 
-class QLabel;
-
 namespace zelvor {
+
+class ElidedLabel;
 
 // A field that turns into paper: while it is paper, its text stands in the same place without a frame.
 class PaperField : public QWidget {
@@ -21,7 +21,7 @@ public:
 private:
     QWidget* m_edit;
     QWidget* m_holder; // hides the field, whatever its outlet says of its visibility
-    QLabel* m_text;
+    ElidedLabel* m_text;
     std::function<QString()> m_textOf;
 };
 

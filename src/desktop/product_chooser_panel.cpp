@@ -2,6 +2,7 @@
 
 #include "catalogs/product_view_controller.h"
 #include "core/localized.h"
+#include "desktop/elided_label.h"
 #include "desktop/measurement_popover.h"
 #include "desktop/measures.h"
 #include "desktop/product_group_popover.h"
@@ -14,7 +15,6 @@
 #include <QtCore/QPointer>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QHeaderView>
-#include <QtWidgets/QLabel>
 #include <QtWidgets/QVBoxLayout>
 
 #include <algorithm>
@@ -26,13 +26,14 @@ namespace zelvor {
 ProductChooserPanel::ProductChooserPanel(ProductDocumentViewController& form, QWidget* parent)
     : QWidget(parent), m_form(form),
       m_tree(new TreeList(form.mainProductView().view, form.appDelegate.calendar)),
-      m_search(new SearchLine(m_tree)), m_title(new QLabel)
+      m_search(new SearchLine(m_tree)), m_title(new ElidedLabel)
 {
     m_tree->setObjectName(u"mainProductView"_s);
     m_tree->setAccessibleName(localized("Products that the document can take"));
     m_tree->setDragDropMode(QAbstractItemView::DragOnly);
     m_tree->setDefaultDropAction(Qt::CopyAction);
     m_tree->setFrameShape(QFrame::StyledPanel);
+    m_tree->setIndentation(measures::groupGap);
     m_tree->rowAction = [this](const OutlineView::Node& node) {
         return chooseNode(std::dynamic_pointer_cast<ProductModel>(node));
     };
@@ -51,12 +52,10 @@ QWidget* ProductChooserPanel::makeTitle()
 {
     Label& outlet = m_form.mainProductView().stockNameLabelForProducts;
     m_title->setObjectName(outlet.name());
-    m_title->setTextFormat(Qt::PlainText);
-    m_title->setMinimumWidth(1);
     QFont bold = font();
     bold.setBold(true);
     m_title->setFont(bold);
-    const QPointer<QLabel> title(m_title);
+    const QPointer<ElidedLabel> title(m_title);
     const auto show = [title, &outlet] {
         if (title) // where goods come in no warehouse is named
             title->setText(outlet.text().isEmpty() ? localized("All Products") : outlet.text());
@@ -129,7 +128,7 @@ void ProductChooserPanel::arrangeColumns()
                        m_form.document->docType() != DocType::Return;
     const QString price = costs ? u"baseCost"_s : u"priceCost"_s;
     const int name = model.columnWithIdentifier(u"name"_s);
-    const int numberWidth = fontMetrics().horizontalAdvance(u"00 000.00"_s) + 2 * measures::rowPadding;
+    const int numberWidth = fontMetrics().horizontalAdvance(u"0 000.00"_s) + 2 * measures::rowPadding;
     int taken = 0;
     int place = header.visualIndex(name) + 1;
     for (const QString& identifier : {goodsLeave ? u"amount"_s : u"measurementName"_s, price}) {

@@ -6,10 +6,9 @@
 
 #include <memory>
 
-class QLabel;
-
 namespace zelvor {
 
+class ElidedLabel;
 class ProductDocumentViewController;
 class SearchLine;
 class ToolButton;
@@ -43,7 +42,7 @@ private:
     ProductDocumentViewController& m_form;
     TreeList* m_tree;
     SearchLine* m_search;
-    QLabel* m_title;
+    ElidedLabel* m_title;
     ToolButton* m_add = nullptr;
 };
 

@@ -41,7 +41,7 @@ void makeStrong(QPushButton* button)
 {
     QPalette palette = QGuiApplication::palette();
     for (const auto group : {QPalette::Active, QPalette::Inactive}) {
-        palette.setColor(group, QPalette::Button, palette.color(group, QPalette::Highlight).darker(135));
+        palette.setColor(group, QPalette::Button, palette.color(group, QPalette::Highlight).darker(150));
         palette.setColor(group, QPalette::ButtonText, palette.color(group, QPalette::HighlightedText));
     }
     if (palette != button->palette())
@@ -53,8 +53,7 @@ void makeStrong(QPushButton* button)
 ProductDocumentPage::ProductDocumentPage(ProductDocumentViewController& controller, QWidget* parent)
     : Page(controller.mainView, parent), m_controller(controller),
       m_fields(new ProductDocumentFields(controller)), m_sheet(new ProductRowsPanel(controller)),
-      m_products(new ProductChooserPanel(controller, this)), m_totals(new ProductDocumentTotals(controller)),
-      m_splitter(new QSplitter)
+      m_totals(new ProductDocumentTotals(controller)), m_splitter(new QSplitter)
 {
     bind(controller.documentTitle, heading());
     makeTools();
@@ -121,16 +120,18 @@ QPushButton* ProductDocumentPage::makeButton(Button& outlet, const QString& text
 
 void ProductDocumentPage::makeBody()
 {
+    // In reading order, which the Tab key follows.
+    rows()->addWidget(m_fields);
+    rows()->addWidget(m_splitter, 1);
     m_splitter->setObjectName(u"documentSplitter"_s);
     m_splitter->addWidget(m_sheet);
+    m_products = new ProductChooserPanel(m_controller, this);
     m_splitter->addWidget(m_products);
     m_splitter->setStretchFactor(0, 7);
     m_splitter->setStretchFactor(1, 3);
     m_splitter->setSizes({700, 300});
     m_splitter->setChildrenCollapsible(false);
     m_splitter->setHandleWidth(measures::rowGap);
-    rows()->addWidget(m_fields);
-    rows()->addWidget(m_splitter, 1);
     rows()->addWidget(makeFoot());
 }
 

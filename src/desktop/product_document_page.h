@@ -54,7 +54,7 @@ private:
     ProductDocumentViewController& m_controller;
     ProductDocumentFields* m_fields;
     ProductRowsPanel* m_sheet;
-    ProductChooserPanel* m_products;
+    ProductChooserPanel* m_products = nullptr;
     ProductDocumentTotals* m_totals;
     PaperField* m_comment = nullptr;
     QWidget* m_deleteRow = nullptr;

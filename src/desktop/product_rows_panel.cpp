@@ -10,6 +10,7 @@
 #include <QtGui/QDragEnterEvent>
 #include <QtGui/QGuiApplication>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QVBoxLayout>
 
 #include <algorithm>
@@ -44,6 +45,7 @@ ProductRowsPanel::ProductRowsPanel(ProductDocumentViewController& form, QWidget*
 void ProductRowsPanel::connectRows()
 {
     connect(m_table->tableModel(), &QAbstractItemModel::modelReset, this, [this] { rowsChanged(); });
+    connect(m_table->horizontalScrollBar(), &QScrollBar::rangeChanged, this, [this] { fitHeight(); });
     connect(m_table, &TableList::currentRowChanged, this, [this] { m_form.mainView.selectionChanged(); });
     connect(m_table, &ProductRowsTable::leftDownwards, m_entry, [this] { m_entry->setFocus(); });
     connect(m_table, &ProductRowsTable::deleteRequested, this, [this] { deleteRow(); });
@@ -103,8 +105,14 @@ void ProductRowsPanel::rowsChanged()
     m_empty->setText(empty && !m_paper
                          ? localized("No rows yet. Type a product, or drag one from the list on the right.")
                          : QString());
-    m_table->setMaximumHeight(m_table->contentHeight());
+    fitHeight();
     paintGround();
+}
+
+// The line to type into stands right below the last row, and below the table where that scrolls.
+void ProductRowsPanel::fitHeight()
+{
+    m_table->setMaximumHeight(m_table->contentHeight());
 }
 
 void ProductRowsPanel::paintGround()
@@ -166,7 +174,7 @@ void ProductRowsPanel::changeEvent(QEvent* event)
 void ProductRowsPanel::resizeEvent(QResizeEvent* event)
 {
     QFrame::resizeEvent(event);
-    m_table->setMaximumHeight(m_table->contentHeight());
+    fitHeight();
 }
 
 } // namespace zelvor

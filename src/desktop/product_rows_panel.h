@@ -37,6 +37,7 @@ protected:
 private:
     void connectRows();
     void rowsChanged();
+    void fitHeight();
     void paintGround();
     void setReceiving(bool receiving);
 

@@ -139,8 +139,9 @@ bool ProductRowsTable::finishEditing()
 
 int ProductRowsTable::contentHeight() const
 {
-    const QScrollBar* const bar = horizontalScrollBar();
-    const int barHeight = bar->maximum() > 0 ? bar->sizeHint().height() : 0;
+    // Worked out, not asked: a bar may be there only because the height is not right yet.
+    const bool rolls = horizontalHeader()->length() > width();
+    const int barHeight = rolls ? horizontalScrollBar()->sizeHint().height() : 0;
     return horizontalHeader()->sizeHint().height() + verticalHeader()->length() + barHeight;
 }
 
@@ -190,12 +191,12 @@ void ProductRowsTable::fitNumbers()
     for (int i = 0; i < static_cast<int>(columns.size()); ++i) {
         const ViewColumn& column = columns[static_cast<std::size_t>(i)];
         const bool name = column.identifier == "name"_L1;
-        header.setSectionResizeMode(i, name ? QHeaderView::Stretch : QHeaderView::Interactive);
+        header.setSectionResizeMode(i, QHeaderView::Interactive);
         if (column.hidden || name)
             continue;
         int width = header.sectionSizeHint(i);
         if (column.kind == CellKind::Amount)
-            width = std::max(width, metrics.horizontalAdvance(u"00 000.00"_s) + 2 * measures::rowPadding);
+            width = std::max(width, metrics.horizontalAdvance(u"0 000.00"_s) + 2 * measures::rowPadding);
         const int rows = std::min(tableModel()->rowCount(), 200);
         for (int row = 0; row < rows; ++row) {
             const QString text = tableModel()->index(row, i).data(Qt::DisplayRole).toString();
@@ -204,6 +205,10 @@ void ProductRowsTable::fitNumbers()
         if (anew || width > header.sectionSize(i))
             header.resizeSection(i, width);
     }
+    const int nameColumn = tableModel()->columnWithIdentifier(u"name"_s);
+    const int taken = header.length() - header.sectionSize(nameColumn);
+    const int narrowest = metrics.averageCharWidth() * 16;
+    header.resizeSection(nameColumn, std::max(narrowest, viewport()->width() - taken));
 }
 
 } // namespace zelvor

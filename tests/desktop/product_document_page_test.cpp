@@ -8,6 +8,7 @@
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDateTimeEdit>
+#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSlider>
 #include <QtWidgets/QToolButton>
@@ -625,6 +626,42 @@ TEST_F(ProductDocumentPageTest, inAProjectForReadingOnlyItIsPaperAndTheStateLine
     EXPECT_EQ(entry(), nullptr);
     EXPECT_FALSE(isEnabled(u"confirmButton"_s));
     EXPECT_EQ(label(u"stateField"_s), u"The project is open for reading only. Nothing can be changed."_s);
+}
+
+TEST_F(ProductDocumentPageTest, theTabKeyFollowsTheReadingOrder)
+{
+    openFilled(DocType::SellProduct);
+    typeRow(u"chai"_s, u"1"_s, u"18"_s);
+    program.clickCell(table(), cell(0, u"name"_s));
+    program.find(u"saveButton"_s)->setFocus();
+    QStringList names;
+    do {
+        names.append(focusName());
+        press(Qt::Key_Tab);
+    } while (focusName() != u"saveButton"_s && names.size() < 40);
+    names.removeDuplicates(); // the parts of the date
+    EXPECT_EQ(names.mid(0, names.indexOf(u"shipment"_s) + 1).join(u' '),
+              u"saveButton confirmButton moreButton date stockFromSelect contragentField selectContragent "
+              "clearContragent managerSelect deferment defermentSlider contragentDiscount "
+              "contragentDiscountSlider documentRows productEntry searchLine mainProductView "
+              "deleteSelectedRowsButton comment shipment"_s);
+}
+
+TEST_F(ProductDocumentPageTest, theEmptyRowStandsRightBelowTheLastOne)
+{
+    openFilled(DocType::BuyProduct);
+    program.window().resize(1440, 900); // room for all columns
+    const auto gap = [this] {
+        QCoreApplication::processEvents();
+        const int rows = table()->verticalHeader()->length();
+        const QPoint end = table()->viewport()->mapToGlobal(QPoint(0, rows));
+        return entry()->mapToGlobal(QPoint(0, 0)).y() - end.y();
+    };
+    EXPECT_EQ(gap(), 0);
+    typeRow(u"chai"_s, u"1"_s, u"18"_s);
+    EXPECT_EQ(gap(), 0);
+    typeRow(u"chang"_s, u"1"_s, u"19"_s);
+    EXPECT_EQ(gap(), 0);
 }
 
 TEST_F(ProductDocumentPageTest, backOnItsTabTheCursorStandsWhereItStood)
