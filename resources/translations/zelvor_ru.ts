@@ -1541,6 +1541,10 @@ or Open Existing… for a project file that you have.</source>
         <translation>Телефон</translation>
     </message>
     <message>
+        <source>Pick from a calendar</source>
+        <translation>Выбрать в календаре</translation>
+    </message>
+    <message>
         <source>Pick from a calendar (Alt+Down)</source>
         <translation>Выбрать в календаре (Alt+Down)</translation>
     </message>

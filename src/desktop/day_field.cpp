@@ -90,6 +90,7 @@ QDate dayFromUserText(const QString& text, const QLocale& locale, const QDate& s
 DayField::DayField(QWidget* parent) : QLineEdit(parent)
 {
     auto* const pick = addAction(lineIcon(u"calendar"_s), QLineEdit::TrailingPosition);
+    pick->setText(localized("Pick from a calendar"));
     pick->setToolTip(localized("Pick from a calendar (Alt+Down)"));
     connect(pick, &QAction::triggered, this, &DayField::openCalendar);
     connect(this, &QLineEdit::textEdited, this,
@@ -185,7 +186,12 @@ void DayField::focusInEvent(QFocusEvent* event)
 QSize DayField::sizeHint() const
 {
     const QSize usual = QLineEdit::sizeHint();
-    const int text = fontMetrics().horizontalAdvance(u"00.00.0000"_s);
+    int text = fontMetrics().horizontalAdvance(u"00.00.0000"_s);
+    const QLocale locale;
+    for (int month = 1; month <= 12; ++month) { // a region may write its name
+        const QString day = locale.toString(QDate(2000, month, 28), shortDateFormat(locale));
+        text = std::max(text, fontMetrics().horizontalAdvance(day));
+    }
     return {text + measures::menuIcon + 5 * measures::labelGap, usual.height()};
 }
 

@@ -1,6 +1,5 @@
 #include "desktop/foot_line.h"
 
-#include "core/localized.h"
 #include "desktop/binding.h"
 #include "desktop/elided_label.h"
 #include "desktop/measures.h"
@@ -23,7 +22,6 @@ FootLine::FootLine(MainViewController& workspace, QWidget* parent) : QFrame(pare
     bind(workspace.stateField, state);
     bind(workspace.balanceLabel, balanceLabel);
     bind(workspace.balance, balance);
-    balance->setAccessibleName(localized("Balance"));
     QFont figures = balance->font();
     figures.setBold(true);
     balance->setFont(figures);

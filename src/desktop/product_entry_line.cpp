@@ -37,7 +37,7 @@ ProductEntryLine::ProductEntryLine(ProductDocumentViewController& form, QWidget*
     setPlaceholderText(localized("Type a product…"));
     setFrame(false);
     setAcceptDrops(false); // the sheet takes what is dropped
-    addAction(lineIcon(u"add"_s), QLineEdit::LeadingPosition);
+    addAction(lineIcon(u"add"_s), QLineEdit::LeadingPosition)->setText(localized("Add"));
     connect(this, &QLineEdit::textEdited, this, &ProductEntryLine::showMatches);
 }
 

@@ -35,7 +35,7 @@ QuickOpen::QuickOpen(ApplicationShell& shell, QWidget* parent)
     setAccessibleName(localized("Find anything"));
     setPlaceholderText(localized("Find anything   Ctrl+K"));
     setClearButtonEnabled(true);
-    addAction(lineIcon(u"search"_s), LeadingPosition);
+    addAction(lineIcon(u"search"_s), LeadingPosition)->setText(localized("Search"));
     connect(this, &QLineEdit::textEdited, this, &QuickOpen::list);
 
     m_list->setObjectName(u"quickOpenList"_s);
@@ -88,6 +88,9 @@ void QuickOpen::list()
     });
     std::ranges::stable_partition(
         m_found, [&](const Target& target) { return target.title.startsWith(typed, Qt::CaseInsensitive); });
+    std::ranges::stable_partition(m_found, [&](const Target& target) {
+        return target.title.compare(typed, Qt::CaseInsensitive) == 0;
+    });
     m_list->clear();
     for (const Target& target : m_found) {
         auto* const row = new QTreeWidgetItem(m_list, {target.title, target.group});

@@ -15,7 +15,7 @@ SearchLine::SearchLine(QWidget* list, QWidget* parent) : QLineEdit(parent), m_li
     setAccessibleName(localized("Search in the list"));
     setPlaceholderText(localized("Search (Ctrl+F)"));
     setClearButtonEnabled(true);
-    addAction(lineIcon(u"search"_s), QLineEdit::LeadingPosition);
+    addAction(lineIcon(u"search"_s), QLineEdit::LeadingPosition)->setText(localized("Search"));
     setMinimumWidth(fontMetrics().averageCharWidth() * 26);
 }
 

@@ -59,6 +59,12 @@ TEST_F(FindAnything, putsWhatBeginsWithTheTypedTextFirst)
     EXPECT_TRUE(found().constFirst().startsWith(u"Sal"_s));
 }
 
+TEST_F(FindAnything, putsTheEntryOfThatVeryNameBeforeLongerOnes)
+{
+    type(u"counterparties"_s);
+    EXPECT_EQ(found(), (QStringList{u"Counterparties"_s, u"Counterparties Report"_s}));
+}
+
 TEST_F(FindAnything, opensTheFirstOneByEnter)
 {
     type(u"warehouses"_s);
