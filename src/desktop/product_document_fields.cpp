@@ -52,6 +52,13 @@ QLabel* plainLabel(const QString& text)
     return label;
 }
 
+// A screen reader is told the chosen entry for a chooser's name, and finds no label beside it: the two do not
+// lie in one widget.
+void describe(QComboBox* box, const QString& use)
+{
+    box->setAccessibleDescription(use);
+}
+
 QWidget* sideBySide(std::initializer_list<QWidget*> widgets)
 {
     auto* const holder = new QWidget;
@@ -153,6 +160,7 @@ void ProductDocumentFields::addWarehouses()
     const auto addSelect = [this](PopUpButton& outlet, Label& label) {
         auto* const box = new QComboBox;
         bind(outlet, box, label.text());
+        describe(box, label.text());
         add(requiredLabel(label), onPaper(new PaperField(box, [box] { return box->currentText(); })));
         connect(box, &QComboBox::activated, this, &ProductDocumentFields::inputChosen);
     };
@@ -201,6 +209,7 @@ void ProductDocumentFields::addManager()
     view.prepareManagers();
     auto* const box = new QComboBox;
     bind(view.managerSelect, box, view.managerLabel.text());
+    describe(box, view.managerLabel.text());
     auto* const label = new QLabel;
     bind(view.managerLabel, label);
     add(label, onPaper(new PaperField(box, [box] { return box->currentText(); })));

@@ -88,9 +88,8 @@ void QuickOpen::list()
     });
     std::ranges::stable_partition(
         m_found, [&](const Target& target) { return target.title.startsWith(typed, Qt::CaseInsensitive); });
-    std::ranges::stable_partition(m_found, [&](const Target& target) {
-        return target.title.compare(typed, Qt::CaseInsensitive) == 0;
-    });
+    std::ranges::stable_partition(
+        m_found, [&](const Target& target) { return target.title.compare(typed, Qt::CaseInsensitive) == 0; });
     m_list->clear();
     for (const Target& target : m_found) {
         auto* const row = new QTreeWidgetItem(m_list, {target.title, target.group});
