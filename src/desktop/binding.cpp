@@ -3,13 +3,16 @@
 #include "core/formats.h"
 #include "core/localized.h"
 #include "desktop/cell_text.h"
-#include "desktop/icons.h"
+#include "desktop/chooser_model.h"
+#include "desktop/number_entry.h"
+#include "desktop/page.h"
+#include "desktop/popover_panel.h"
 #include "desktop/theme.h"
 
+#include <QtCore/QEvent>
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QGuiApplication>
-#include <QtGui/QStandardItemModel>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QButtonGroup>
 #include <QtWidgets/QCheckBox>
@@ -21,63 +24,118 @@
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QSlider>
 
-using namespace Qt::Literals::StringLiterals;
+#include <functional>
+#include <utility>
 
 namespace zelvor {
 
 namespace {
 
+// The tie of one widget to its outlet; goes with the widget. Shows the outlet again when it changes, and
+// when the colours of the desktop do.
+class Tie final : public QObject {
+public:
+    Tie(Outlet& outlet, QWidget* widget, std::function<void()> show)
+        : QObject(widget), m_outlet(outlet), m_widget(widget), m_show(std::move(show))
+    {
+        widget->installEventFilter(this);
+    }
+
+    void update()
+    {
+        m_widget->setEnabled(m_outlet.enabled());
+        // Only a change is told: a widget without a window yet is shown together with it.
+        if (std::exchange(m_hidden, m_outlet.hidden()) != m_outlet.hidden())
+            m_widget->setVisible(!m_outlet.hidden());
+        m_show();
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::ApplicationPaletteChange)
+            m_show();
+        // A wheel that rolls over a form changes nothing in it unless the field was chosen.
+        if (event->type() == QEvent::Wheel && m_ignoresWheel && !m_widget->hasFocus()) {
+            event->ignore();
+            return true;
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    Outlet& m_outlet;
+    QWidget* m_widget;
+    std::function<void()> m_show;
+    bool m_hidden = false;
+
+public:
+    bool m_ignoresWheel = false;
+};
+
 // Names the widget and keeps it in step with the outlet from now on.
-template <class Widget, class Show>
-void follow(Outlet& outlet, Widget* widget, const QString& accessibleName, Show show)
+Tie* follow(Outlet& outlet, QWidget* widget, const QString& accessibleName, std::function<void()> show)
 {
     widget->setObjectName(outlet.name());
     if (!accessibleName.isEmpty())
         widget->setAccessibleName(accessibleName);
-    const QPointer<Widget> shown(widget);
-    const auto update = [&outlet, shown, show] {
-        if (!shown)
-            return;
-        shown->setEnabled(outlet.enabled());
-        shown->setVisible(!outlet.hidden());
-        const QSignalBlocker quiet(shown.data());
-        show(shown.data());
-    };
-    outlet.onChange(update);
-    if (!outlet.hidden()) // a widget that has no window yet is shown with it
-        widget->setEnabled(outlet.enabled());
-    else
-        widget->setVisible(false);
-    const QSignalBlocker quiet(widget);
-    show(widget);
+    auto* const tie = new Tie(outlet, widget, std::move(show));
+    const QPointer<Tie> shown(tie);
+    outlet.onChange([shown] {
+        if (shown)
+            shown->update();
+    });
+    tie->update();
+    return tie;
 }
 
+void ignoreWheel(Tie* tie, QWidget* widget)
+{
+    widget->setFocusPolicy(Qt::StrongFocus); // not by the wheel
+    tie->m_ignoresWheel = true;
+}
+
+// The colour of the text alone; everything else goes on following the palette of the program.
 void paintInk(QWidget* widget, const Color& color)
 {
-    QPalette palette = QGuiApplication::palette();
+    QPalette own;
     if (!(color == blackColor)) {
-        palette.setColor(QPalette::WindowText, textColor(color, palette));
-        palette.setColor(QPalette::Text, textColor(color, palette));
+        const QColor ink = textColor(color, QGuiApplication::palette());
+        own.setColor(QPalette::WindowText, ink);
+        own.setColor(QPalette::Text, ink);
     }
-    widget->setPalette(palette);
+    const QPalette now = widget->palette();
+    if (now.color(QPalette::WindowText) != own.color(QPalette::WindowText) ||
+        now.isBrushSet(QPalette::Active, QPalette::WindowText) !=
+            own.isBrushSet(QPalette::Active, QPalette::WindowText))
+        widget->setPalette(own);
 }
 
-void paintWrong(QWidget* widget, bool wrong)
+// What is stored together with the widget: the popover, the page or the window that it stands in.
+QWidget& formOf(QWidget* widget)
 {
-    QPalette palette = QGuiApplication::palette();
-    if (wrong)
-        palette.setColor(QPalette::Text, textColor(redColor, palette));
-    widget->setPalette(palette);
-    widget->setToolTip(wrong ? localized("This is not a number. Write 1234.50 or 1234,50.") : QString());
+    QWidget* form = widget;
+    while (!form->isWindow() && !qobject_cast<PopoverPanel*>(form) && !qobject_cast<Page*>(form))
+        form = form->parentWidget();
+    return *form;
+}
+
+NumberEntry::Number numberOf(const NumberField& outlet)
+{
+    return outlet.isEmpty() ? NumberEntry::Number() : outlet.value();
 }
 
 } // namespace
 
 void bind(TextField& outlet, QLineEdit* widget, const QString& accessibleName)
 {
-    follow(outlet, widget, accessibleName, [&outlet](QLineEdit* edit) {
-        if (edit->text() != outlet.text())
-            edit->setText(outlet.text());
+    follow(outlet, widget, accessibleName, [&outlet, widget] {
+        if (widget->text() == outlet.text())
+            return;
+        const int place = widget->cursorPosition();
+        widget->setText(outlet.text());
+        if (widget->hasFocus())
+            widget->setCursorPosition(place);
     });
     QObject::connect(widget, &QLineEdit::textEdited, widget, [&outlet](const QString& text) {
         outlet.setText(text);
@@ -87,9 +145,10 @@ void bind(TextField& outlet, QLineEdit* widget, const QString& accessibleName)
 
 void bind(TextField& outlet, QPlainTextEdit* widget, const QString& accessibleName)
 {
-    follow(outlet, widget, accessibleName, [&outlet](QPlainTextEdit* edit) {
-        if (edit->toPlainText() != outlet.text())
-            edit->setPlainText(outlet.text());
+    widget->setTabChangesFocus(true);
+    follow(outlet, widget, accessibleName, [&outlet, widget] {
+        if (widget->toPlainText() != outlet.text())
+            widget->setPlainText(outlet.text());
     });
     QObject::connect(widget, &QPlainTextEdit::textChanged, widget, [&outlet, widget] {
         if (outlet.text() == widget->toPlainText())
@@ -102,55 +161,40 @@ void bind(TextField& outlet, QPlainTextEdit* widget, const QString& accessibleNa
 void bind(Label& outlet, QLabel* widget)
 {
     widget->setTextFormat(Qt::PlainText);
-    follow(outlet, widget, {}, [&outlet](QLabel* label) {
-        label->setText(outlet.text());
-        paintInk(label, outlet.color());
+    follow(outlet, widget, {}, [&outlet, widget] {
+        widget->setText(outlet.text());
+        paintInk(widget, outlet.color());
     });
 }
 
 void bind(NumberField& outlet, QLineEdit* widget, const QString& accessibleName, int decimals)
 {
-    widget->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    follow(outlet, widget, accessibleName, [&outlet, decimals](QLineEdit* edit) {
-        paintWrong(edit, false);
-        const bool same = !outlet.isEmpty() && amountFromUserText(edit->text(), QLocale()) == outlet.value();
-        if (edit->hasFocus() && same)
-            return; // what is being typed is not rewritten under the cursor
-        edit->setText(outlet.isEmpty() ? QString() : editedNumber(outlet.value(), QLocale(), decimals));
-    });
-    QObject::connect(widget, &QLineEdit::textEdited, widget, [&outlet, widget](const QString& text) {
-        const Decimal number = text.trimmed().isEmpty() ? Decimal() : amountFromUserText(text, QLocale());
-        paintWrong(widget, number.isNaN());
-        if (!number.isNaN())
-            outlet.setValue(number);
-    });
-    QObject::connect(widget, &QLineEdit::editingFinished, widget, [&outlet, widget, decimals] {
-        if (!widget->isModified())
-            return;
-        widget->setModified(false);
-        if (widget->text().trimmed().isEmpty())
-            outlet.clear();
+    auto* const entry = new NumberEntry(widget, decimals);
+    follow(outlet, widget, accessibleName, [&outlet, entry] { entry->show(numberOf(outlet)); });
+    entry->onTyped = [&outlet](const NumberEntry::Number& number) {
+        number ? outlet.setValue(*number) : outlet.clear();
+    };
+    entry->onDone = [&outlet, entry] {
         outlet.userChanged();
-        const QSignalBlocker quiet(widget);
-        paintWrong(widget, false);
-        widget->setText(outlet.isEmpty() ? QString() : editedNumber(outlet.value(), QLocale(), decimals));
-    });
+        entry->show(numberOf(outlet));
+    };
 }
 
 void bind(NumberField& outlet, QLabel* widget, int decimals)
 {
     widget->setTextFormat(Qt::PlainText);
     widget->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    follow(outlet, widget, {}, [&outlet, decimals](QLabel* label) {
-        label->setText(decimals == 2 ? screenAmount(outlet.value(), QLocale())
-                                     : editedNumber(outlet.value(), QLocale(), decimals));
-        paintInk(label, outlet.color());
+    follow(outlet, widget, {}, [&outlet, widget, decimals] {
+        widget->setText(decimals == 2 ? screenAmount(outlet.value(), QLocale())
+                                      : editedNumber(outlet.value(), QLocale(), decimals));
+        paintInk(widget, outlet.color());
     });
 }
 
 void bind(CheckBox& outlet, QCheckBox* widget)
 {
-    follow(outlet, widget, widget->text(), [&outlet](QCheckBox* box) { box->setChecked(outlet.isOn()); });
+    follow(outlet, widget, widget->accessibleName().isEmpty() ? widget->text() : widget->accessibleName(),
+           [&outlet, widget] { widget->setChecked(outlet.isOn()); });
     QObject::connect(widget, &QCheckBox::clicked, widget, [&outlet](bool on) {
         outlet.setOn(on);
         outlet.userChanged();
@@ -159,60 +203,73 @@ void bind(CheckBox& outlet, QCheckBox* widget)
 
 void bind(PopUpButton& outlet, QComboBox* widget, const QString& accessibleName)
 {
-    follow(outlet, widget, accessibleName, [&outlet](QComboBox* box) {
-        box->clear();
-        int selected = -1;
-        for (const PopUpButton::Item& item : outlet.items()) {
-            if (item.separator) {
-                box->insertSeparator(box->count());
-                continue;
-            }
-            box->addItem(pictureIcon(item.image), item.title, item.tag);
-            const int last = box->count() - 1;
-            box->setItemData(last, item.toolTip.toHtmlEscaped(), Qt::ToolTipRole);
-            auto* const entry = static_cast<QStandardItemModel*>(box->model())->item(last);
-            entry->setEnabled(item.enabled);
-            if (item.tag == outlet.selectedTag())
-                selected = selected < 0 ? last : selected;
-        }
-        box->setCurrentIndex(selected);
-    });
-    QObject::connect(widget, &QComboBox::activated, widget, [&outlet, widget](int index) {
-        outlet.selectTag(widget->itemData(index).toLongLong());
+    auto* const model = new ChooserModel(widget);
+    const QSignalBlocker quiet(widget);
+    widget->setModel(model);
+    widget->setMaxVisibleItems(20);
+    ignoreWheel(follow(outlet, widget, accessibleName,
+                       [&outlet, widget, model] {
+                           const QSignalBlocker silent(widget);
+                           model->setItems(outlet.items());
+                           widget->setCurrentIndex(model->rowOfTag(outlet.selectedTag()));
+                       }),
+                widget);
+    QObject::connect(widget, &QComboBox::activated, widget, [&outlet, model](int row) {
+        outlet.selectTag(model->tag(row));
         outlet.userChanged();
     });
 }
 
 void bind(Slider& outlet, QSlider* widget, const QString& accessibleName)
 {
-    follow(outlet, widget, accessibleName, [&outlet](QSlider* slider) {
-        slider->setRange(static_cast<int>(outlet.minimum()), static_cast<int>(outlet.maximum()));
-        slider->setValue(static_cast<int>(outlet.value()));
-    });
+    ignoreWheel(follow(outlet, widget, accessibleName,
+                       [&outlet, widget] {
+                           const QSignalBlocker quiet(widget);
+                           widget->setRange(static_cast<int>(outlet.minimum()),
+                                            static_cast<int>(outlet.maximum()));
+                           widget->setValue(static_cast<int>(outlet.value()));
+                       }),
+                widget);
     QObject::connect(widget, &QSlider::valueChanged, widget, [&outlet](int value) {
         outlet.setValue(value);
         outlet.userChanged();
     });
 }
 
+// The widget works on a clock without a zone; the calendar alone knows which moment its local time means.
 void bind(DatePicker& outlet, QDateTimeEdit* widget, const QString& accessibleName, const Calendar& calendar)
 {
-    follow(outlet, widget, accessibleName, [&outlet, &calendar](QDateTimeEdit* edit) {
-        edit->setDateTime(calendar.dateTime(outlet.moment()));
-    });
-    QObject::connect(widget, &QDateTimeEdit::dateTimeChanged, widget, [&outlet](const QDateTime& moment) {
-        outlet.setMoment(moment.toSecsSinceEpoch());
-        outlet.userChanged();
-    });
+    const auto show = [&outlet, widget, &calendar] {
+        const QDateTime local = calendar.dateTime(outlet.moment());
+        const QSignalBlocker quiet(widget);
+        widget->setDateTime(QDateTime(local.date(), local.time(), Qt::UTC));
+    };
+    const bool dateOnly = qobject_cast<QDateEdit*>(widget) != nullptr;
+    widget->setTimeSpec(Qt::UTC);
+    widget->setDisplayFormat(dateOnly ? shortDateFormat(QLocale()) : shortDateTimeFormat(QLocale()));
+    widget->setCalendarPopup(true);
+    widget->setKeyboardTracking(false); // half a date is none
+    ignoreWheel(follow(outlet, widget, accessibleName, show), widget);
+    QObject::connect(widget, &QDateTimeEdit::dateTimeChanged, widget,
+                     [&outlet, &calendar, show](const QDateTime& local) {
+                         outlet.setMoment(calendar.moment(local.date(), local.time()));
+                         outlet.userChanged();
+                         show(); // a time that the clock skips is shown as the one that it means
+                     });
 }
 
 void bind(Button& outlet, QAbstractButton* widget)
 {
-    follow(outlet, widget, widget->accessibleName(), [&outlet](QAbstractButton* button) {
-        if (button->isCheckable())
-            button->setChecked(outlet.isOn());
-    });
-    QObject::connect(widget, &QAbstractButton::clicked, widget, [&outlet](bool on) {
+    const auto show = [&outlet, widget] {
+        if (widget->isCheckable())
+            widget->setChecked(outlet.isOn());
+    };
+    follow(outlet, widget, widget->accessibleName(), show);
+    QObject::connect(widget, &QAbstractButton::clicked, widget, [&outlet, widget, show](bool on) {
+        if (!endEditing(formOf(widget))) {
+            show();
+            return;
+        }
         outlet.setOn(on);
         outlet.userChanged();
     });
@@ -222,14 +279,15 @@ void bind(Progress& outlet, QProgressBar* widget)
 {
     widget->setRange(0, 0);
     widget->setTextVisible(false);
+    widget->setVisible(false);
     follow(outlet, widget, localized("Busy"),
-           [&outlet](QProgressBar* bar) { bar->setVisible(outlet.isRunning()); });
+           [&outlet, widget] { widget->setVisible(outlet.isRunning() && !outlet.hidden()); });
 }
 
 void bind(RadioGroup& outlet, QButtonGroup* group, QWidget* frame, const QString& accessibleName)
 {
     const QPointer<QButtonGroup> buttons(group);
-    follow(outlet, frame, accessibleName, [&outlet, buttons](QWidget*) {
+    follow(outlet, frame, accessibleName, [&outlet, buttons] {
         if (QAbstractButton* const button =
                 buttons ? buttons->button(static_cast<int>(outlet.selectedTag())) : nullptr)
             button->setChecked(true);

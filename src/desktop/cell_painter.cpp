@@ -5,22 +5,22 @@
 #include "desktop/icons.h"
 #include "desktop/theme.h"
 
+#include <algorithm>
+
 namespace zelvor {
 
 namespace {
 
-bool isNumber(CellKind kind)
+// Left is also what nobody chose: then the column decides, and numbers stand right in any case.
+QVariant alignment(CellAlignment own, const ViewColumn& column)
 {
-    return kind == CellKind::Amount || kind == CellKind::Integer || kind == CellKind::Percent;
-}
-
-QVariant alignment(CellAlignment alignment, CellKind kind)
-{
+    const CellAlignment chosen = own == CellAlignment::Left ? column.alignment : own;
     Qt::Alignment horizontal = Qt::AlignLeft;
-    if (alignment == CellAlignment::Right || (alignment == CellAlignment::Left && isNumber(kind)))
-        horizontal = Qt::AlignRight;
-    else if (alignment == CellAlignment::Center)
+    if (column.kind == CellKind::CheckBox || column.kind == CellKind::Image ||
+        chosen == CellAlignment::Center)
         horizontal = Qt::AlignHCenter;
+    else if (chosen == CellAlignment::Right || isNumber(column.kind))
+        horizontal = Qt::AlignRight;
     return QVariant::fromValue(horizontal | Qt::AlignVCenter);
 }
 
@@ -31,6 +31,20 @@ QString spoken(const QVariant& value)
 }
 
 } // namespace
+
+bool isNumber(CellKind kind)
+{
+    return kind == CellKind::Amount || kind == CellKind::Integer || kind == CellKind::Percent;
+}
+
+bool areSame(const std::vector<ViewColumn>& columns, const std::vector<ViewColumn>& others)
+{
+    return std::ranges::equal(columns, others, [](const ViewColumn& a, const ViewColumn& b) {
+        return a.identifier == b.identifier && a.title == b.title && a.kind == b.kind &&
+               a.alignment == b.alignment && a.editable == b.editable && a.sortKey == b.sortKey &&
+               a.hidden == b.hidden;
+    });
+}
 
 QVariant cellData(const QVariant& value, const CellStyle& style, const ViewColumn& column, int role,
                   const CellContext& context)
@@ -53,7 +67,7 @@ QVariant cellData(const QVariant& value, const CellStyle& style, const ViewColum
     case Qt::DecorationRole:
         return column.kind == CellKind::Image ? QVariant(pictureIcon(value.toString())) : QVariant();
     case Qt::TextAlignmentRole:
-        return alignment(style.alignment, column.kind);
+        return alignment(style.alignment, column);
     case Qt::ForegroundRole:
         return textColor(style.color, context.palette);
     case Qt::FontRole:
@@ -62,6 +76,8 @@ QVariant cellData(const QVariant& value, const CellStyle& style, const ViewColum
         return value;
     case identifierRole:
         return column.identifier;
+    case numberRole:
+        return isNumber(column.kind);
     default:
         return {};
     }
@@ -74,8 +90,7 @@ QVariant headerCellData(const ViewColumn& column, int role)
     if (role == identifierRole)
         return column.identifier;
     if (role == Qt::TextAlignmentRole)
-        return alignment(column.kind == CellKind::CheckBox ? CellAlignment::Center : column.alignment,
-                         column.kind);
+        return alignment(column.alignment, column);
     return {};
 }
 

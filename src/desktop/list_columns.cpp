@@ -1,8 +1,15 @@
 #include "desktop/list_columns.h"
 
+#include "core/text_order.h"
+#include "desktop/cell_painter.h"
 #include "desktop/measures.h"
+#include "desktop/theme.h"
+
+#include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QHeaderView>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -10,104 +17,197 @@ namespace zelvor {
 
 namespace {
 
-constexpr int sampledRows = 200; // a longer list is fitted by its beginning
+constexpr int padding = 2 * measures::rowPadding;
+constexpr int widestText = 34;    // in letters: a longer text is cut off at first
+constexpr int narrowestName = 20; // in letters
+constexpr int checkedRows = 1000; // a longer list is taken for sorted by its beginning
 
-int widestText(const QAbstractItemModel& model, int column, const QFontMetrics& metrics)
+int textWidth(const QModelIndex& cell, const QFont& plain)
 {
-    int width = 0;
-    const int rows = std::min(model.rowCount(), sampledRows);
-    for (int row = 0; row < rows; ++row) {
-        const QString text = model.index(row, column).data(Qt::DisplayRole).toString();
-        width = std::max(width, metrics.horizontalAdvance(text));
-    }
-    return width;
+    const QVariant own = cell.data(Qt::FontRole);
+    const QFontMetrics metrics(own.isValid() ? own.value<QFont>() : plain);
+    return metrics.horizontalAdvance(cell.data(Qt::DisplayRole).toString());
 }
 
-int fittedWidth(const QHeaderView& header, const QAbstractItemModel& model, const ViewColumn& column,
-                int section, const QFontMetrics& metrics)
+// The column that takes what is left: the name, else the last one of texts.
+int fillerOf(const std::vector<ViewColumn>& columns)
 {
-    const int title = header.sectionSizeHint(section);
-    const int padding = 2 * measures::rowPadding;
-    switch (column.kind) {
-    case CellKind::Amount:
-        return std::max({title, metrics.horizontalAdvance(u"0 000 000.00"_s) + padding,
-                         widestText(model, section, metrics) + padding});
-    case CellKind::Date:
-        return std::max(title, metrics.horizontalAdvance(u"00.00.0000 00:00"_s) + padding);
-    case CellKind::CheckBox:
-    case CellKind::Image:
-        return title;
-    default:
-        return std::max(
-            title, std::min(widestText(model, section, metrics) + padding, metrics.averageCharWidth() * 34));
+    int filler = -1;
+    for (int i = 0; i < static_cast<int>(columns.size()); ++i) {
+        const ViewColumn& column = columns[static_cast<std::size_t>(i)];
+        if (column.hidden || column.kind != CellKind::Text)
+            continue;
+        if (column.identifier == "name"_L1)
+            return i;
+        filler = i;
     }
+    return filler;
+}
+
+bool standsBefore(const QVariant& a, const QVariant& b)
+{
+    if (a.typeId() == QMetaType::QString || b.typeId() == QMetaType::QString)
+        return textLess(a.toString(), b.toString());
+    return a.toDouble() < b.toDouble();
 }
 
 } // namespace
 
-void prepareHeader(QHeaderView& header)
+ListColumns::ListColumns(QAbstractItemView& list, QHeaderView& header)
+    : QObject(&list), m_list(list), m_header(header)
 {
     header.setHighlightSections(false);
     header.setSectionsClickable(true);
     header.setSectionsMovable(false);
     header.setSortIndicatorShown(false);
     header.setStretchLastSection(false);
-    header.setMinimumSectionSize(24);
+    header.setSectionResizeMode(QHeaderView::Interactive);
     header.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    header.setTextElideMode(Qt::ElideRight);
+    header.setMinimumSectionSize(3 * measures::rowPadding);
+    connect(&header, &QHeaderView::sectionPressed, this,
+            [this] { m_pressed = {m_header.sortIndicatorSection(), m_header.sortIndicatorOrder()}; });
+    connect(&header, &QHeaderView::sectionClicked, this, &ListColumns::sortByClick);
+    connect(&header, &QHeaderView::sectionResized, this, [this](int section, int, int width) {
+        if (m_settingWidths || width == 0 || section >= static_cast<int>(m_columns.size()))
+            return;
+        m_given[m_columns[static_cast<std::size_t>(section)].identifier] = width;
+        layOut();
+    });
+}
+
+void ListColumns::adopt(const std::vector<ViewColumn>& columns, const std::vector<QModelIndex>& sample)
+{
+    const bool isSetting = std::exchange(m_settingWidths, true);
+    m_columns = columns;
+    m_filler = fillerOf(columns);
+    for (int i = 0; i < static_cast<int>(columns.size()); ++i) {
+        const bool hidden = columns[static_cast<std::size_t>(i)].hidden;
+        if (m_header.isSectionHidden(i) != hidden)
+            m_header.setSectionHidden(i, hidden);
+        if (!hidden)
+            fit(i, sample);
+    }
+    m_settingWidths = isSetting;
+    layOut();
+}
+
+void ListColumns::fit(int section, const std::vector<QModelIndex>& sample)
+{
+    const ViewColumn& column = m_columns[static_cast<std::size_t>(section)];
+    // Texts are fitted once, to the first rows that there are; numbers whenever they become larger.
+    const bool isText = column.kind == CellKind::Text;
+    const auto known = m_fitted.find(column.identifier);
+    if (isText && known != m_fitted.end())
+        return;
+    int width = minimumWidth(section);
+    if (known != m_fitted.end())
+        width = std::max(width, known->second);
+    if (column.kind != CellKind::CheckBox && column.kind != CellKind::Image) {
+        for (const QModelIndex& row : sample)
+            width = std::max(width, textWidth(row.siblingAtColumn(section), m_list.font()) + padding);
+    }
+    if (isText)
+        width = std::min(width, std::max(minimumWidth(section),
+                                         m_list.fontMetrics().averageCharWidth() * widestText));
+    if (!isText || !sample.empty())
+        m_fitted[column.identifier] = width;
+}
+
+int ListColumns::minimumWidth(int section) const
+{
+    const QFontMetrics metrics = m_list.fontMetrics();
+    const ViewColumn& column = m_columns[static_cast<std::size_t>(section)];
+    const int title = m_header.sectionSizeHint(section) + measures::rowPadding;
+    if (section == m_filler)
+        return std::max(title, metrics.averageCharWidth() * narrowestName);
+    switch (column.kind) {
+    case CellKind::Amount:
+        return std::max(title, metrics.horizontalAdvance(u"0 000 000.00"_s) + padding);
+    case CellKind::Date:
+        return std::max(title, metrics.horizontalAdvance(u"00.00.0000 00:00"_s) + padding);
+    default:
+        return title;
+    }
+}
+
+void ListColumns::layOut()
+{
+    if (std::exchange(m_settingWidths, true))
+        return;
+    int left = m_list.viewport()->width();
+    int fillerWidth = 0;
+    for (int i = 0; i < static_cast<int>(m_columns.size()); ++i) {
+        const ViewColumn& column = m_columns[static_cast<std::size_t>(i)];
+        if (column.hidden)
+            continue;
+        const auto given = m_given.find(column.identifier);
+        const auto fitted = m_fitted.find(column.identifier);
+        const int width = given != m_given.end()     ? given->second
+                          : fitted != m_fitted.end() ? fitted->second
+                                                     : minimumWidth(i);
+        if (i == m_filler && given == m_given.end()) {
+            fillerWidth = minimumWidth(i);
+            continue;
+        }
+        m_header.resizeSection(i, width);
+        left -= width;
+    }
+    if (fillerWidth > 0)
+        m_header.resizeSection(m_filler, std::max(fillerWidth, left));
+    m_settingWidths = false;
+}
+
+void ListColumns::forgetMeasures()
+{
+    m_fitted.clear();
+}
+
+// The second click on a header sorts the other way round. The header has moved its mark by then, also onto a
+// column that does not sort; how it stood is known from the moment of the press.
+void ListColumns::sortByClick(int section)
+{
+    m_header.setSortIndicator(m_pressed.section, m_pressed.order);
+    if (section < 0 || section >= static_cast<int>(m_columns.size()) ||
+        m_columns[static_cast<std::size_t>(section)].sortKey.isEmpty())
+        return;
+    const bool again = m_header.isSortIndicatorShown() && m_pressed.section == section;
+    const auto order =
+        again && m_pressed.order == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
+    m_header.setSortIndicatorShown(false); // until the rows stand so
+    m_list.model()->sort(section, order);
+    m_header.setSortIndicator(section, order);
+    m_header.setSortIndicatorShown(true);
+}
+
+void ListColumns::checkSortMark()
+{
+    if (m_header.isSortIndicatorShown() &&
+        !isSorted(m_header.sortIndicatorSection(), m_header.sortIndicatorOrder()))
+        m_header.setSortIndicatorShown(false);
+}
+
+bool ListColumns::isSorted(int section, Qt::SortOrder order) const
+{
+    const QAbstractItemModel& model = *m_list.model();
+    if (section >= model.columnCount())
+        return false;
+    const int rows = std::min(model.rowCount(), checkedRows);
+    for (int row = 1; row < rows; ++row) {
+        QVariant above = model.index(row - 1, section).data(rawValueRole);
+        QVariant below = model.index(row, section).data(rawValueRole);
+        if (order == Qt::DescendingOrder)
+            std::swap(above, below);
+        if (standsBefore(below, above))
+            return false;
+    }
+    return true;
 }
 
 int firstShownColumn(const std::vector<ViewColumn>& columns)
 {
     const auto place = std::ranges::find(columns, false, &ViewColumn::hidden);
     return place == columns.end() ? 0 : static_cast<int>(place - columns.begin());
-}
-
-std::vector<QString> shownIdentifiers(const std::vector<ViewColumn>& columns)
-{
-    std::vector<QString> identifiers;
-    for (const ViewColumn& column : columns) {
-        if (!column.hidden)
-            identifiers.push_back(column.identifier);
-    }
-    return identifiers;
-}
-
-void fitColumns(QHeaderView& header, const QAbstractItemModel& model, const std::vector<ViewColumn>& columns,
-                const QFontMetrics& metrics)
-{
-    const auto name = std::ranges::find(columns, u"name"_s, &ViewColumn::identifier);
-    const int stretched = name == columns.end() ? -1 : static_cast<int>(name - columns.begin());
-    for (int i = 0; i < static_cast<int>(columns.size()); ++i) {
-        const ViewColumn& column = columns[static_cast<std::size_t>(i)];
-        header.setSectionResizeMode(i, i == stretched ? QHeaderView::Stretch : QHeaderView::Interactive);
-        if (!column.hidden && i != stretched)
-            header.resizeSection(i, fittedWidth(header, model, column, i, metrics));
-    }
-    if (stretched < 0)
-        header.setStretchLastSection(true);
-}
-
-// The header moves its indicator by itself before it tells of a click, also onto a column that does not sort;
-// so the order is kept beside it.
-void sortByClick(QAbstractItemModel& model, QHeaderView& header, const std::vector<ViewColumn>& columns,
-                 int column)
-{
-    static constexpr auto sortedColumn = "sortedColumn";
-    static constexpr auto sortedOrder = "sortedOrder";
-    const QVariant before = header.property(sortedColumn);
-    const auto orderBefore = static_cast<Qt::SortOrder>(header.property(sortedOrder).toInt());
-    if (column < 0 || column >= static_cast<int>(columns.size()) ||
-        columns[static_cast<std::size_t>(column)].sortKey.isEmpty()) {
-        header.setSortIndicator(before.isValid() ? before.toInt() : -1, orderBefore);
-        return;
-    }
-    const bool again = before.isValid() && before.toInt() == column;
-    const auto order = again && orderBefore == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
-    header.setProperty(sortedColumn, column);
-    header.setProperty(sortedOrder, static_cast<int>(order));
-    header.setSortIndicator(column, order);
-    header.setSortIndicatorShown(true);
-    model.sort(column, order);
 }
 
 bool tickCurrent(QAbstractItemView& list)

@@ -2,24 +2,62 @@
 
 #include "core/view.h"
 
-#include <QtGui/QFontMetrics>
-#include <QtWidgets/QAbstractItemView>
-#include <QtWidgets/QHeaderView>
+#include <QtCore/QModelIndex>
+#include <QtCore/QObject>
 
+#include <map>
 #include <vector>
+
+class QAbstractItemModel;
+class QAbstractItemView;
+class QHeaderView;
 
 namespace zelvor {
 
-// What tables and trees share: header, column widths, sorting by a click, a tick by the keyboard.
-void prepareHeader(QHeaderView& header);
-// Widths by kind: dates and amounts as wide as what they hold, the name column takes what is left.
-void fitColumns(QHeaderView& header, const QAbstractItemModel& model, const std::vector<ViewColumn>& columns,
-                const QFontMetrics& metrics);
-// A click on a header: sorts where the column sorts, the second time the other way round.
-void sortByClick(QAbstractItemModel& model, QHeaderView& header, const std::vector<ViewColumn>& columns,
-                  int column);
+// The columns of a table or tree: which ones show, how wide they are, and what a click on their headers does.
+//
+// Each column is as wide as what it holds; one column of texts, the name where there is one, takes what is
+// left of the window, but never less than it needs: a window too narrow for all columns scrolls. A width that
+// the user gave stays as long as the list lives. Columns of numbers grow when larger numbers come.
+class ListColumns : public QObject {
+    Q_OBJECT
+
+public:
+    // Belongs to the list.
+    ListColumns(QAbstractItemView& list, QHeaderView& header);
+
+    // The columns as the view has them now. `sample` are first cells of rows that widths are taken from.
+    void adopt(const std::vector<ViewColumn>& columns, const std::vector<QModelIndex>& sample);
+    // Shares the room of the window out anew.
+    void layOut();
+    // Another font: what was measured is measured anew.
+    void forgetMeasures();
+    // After the rows changed: the mark of the sorted column goes when the rows no longer stand so.
+    void checkSortMark();
+
+private:
+    void fit(int section, const std::vector<QModelIndex>& sample);
+    int minimumWidth(int section) const;
+    void sortByClick(int section);
+    bool isSorted(int section, Qt::SortOrder order) const;
+
+    // Where the mark of the sorted column stands.
+    struct Mark {
+        int section = -1;
+        Qt::SortOrder order = Qt::AscendingOrder;
+    };
+
+    QAbstractItemView& m_list;
+    QHeaderView& m_header;
+    std::vector<ViewColumn> m_columns;
+    std::map<QString, int> m_fitted; // by identifier
+    std::map<QString, int> m_given;  // by the user
+    int m_filler = -1;               // the column that takes what is left
+    Mark m_pressed; // when the mouse went down
+    bool m_settingWidths = false;
+};
+
 int firstShownColumn(const std::vector<ViewColumn>& columns);
-std::vector<QString> shownIdentifiers(const std::vector<ViewColumn>& columns);
 // Turns the tick of the current cell, or of the row's only tick that the user may turn. False without one.
 bool tickCurrent(QAbstractItemView& list);
 

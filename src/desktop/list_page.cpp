@@ -47,7 +47,7 @@ TablePage::TablePage(TableView& view, const Calendar& calendar, const QString& e
     tools()->addWidget(m_search);
     rows()->addWidget(m_list, 1);
     connect(m_search, &QLineEdit::textChanged, m_list->tableModel(), &TableViewModel::setFilter);
-    connect(m_list->tableModel(), &QAbstractItemModel::modelReset, this, [this] { showEmptyText(); });
+    connect(m_list->tableModel(), &TableViewModel::reloaded, this, [this] { showEmptyText(); });
     showEmptyText();
 }
 
@@ -84,7 +84,7 @@ TreePage::TreePage(OutlineView& view, const Calendar& calendar, const QString& e
     tools()->addWidget(m_search);
     rows()->addWidget(m_list, 1);
     connect(m_search, &QLineEdit::textChanged, m_list, &TreeList::setFilter);
-    connect(m_list->outlineModel(), &QAbstractItemModel::modelReset, this, [this] { showEmptyText(); });
+    connect(m_list->outlineModel(), &OutlineViewModel::reloaded, this, [this] { showEmptyText(); });
     showEmptyText();
 }
 

@@ -1,13 +1,14 @@
 #include "desktop/outline_view_model.h"
 
-#include "desktop/cell_text.h"
-#include "desktop/table_view_model.h"
+#include "desktop/question_guard.h"
+#include "desktop/row_filter.h"
 
 #include <QtCore/QMimeData>
 #include <QtCore/QPointer>
 #include <QtGui/QGuiApplication>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -43,7 +44,7 @@ void OutlineViewModel::setFilter(const QString& filter)
 void OutlineViewModel::refresh()
 {
     const int rows = m_view.numberOfChildren(nullptr); // a stale view reads, and tells of it by itself
-    if (m_filter.isEmpty() && rows != rowCount({}))
+    if (m_reloadWaits || (m_filter.isEmpty() && rows != rowCount({})))
         reload();
 }
 
@@ -51,38 +52,88 @@ void OutlineViewModel::reload()
 {
     if (m_reloading)
         return;
+    if (m_questions > 0) {
+        if (!std::exchange(m_reloadWaits, true))
+            QMetaObject::invokeMethod(this, &OutlineViewModel::refresh, Qt::QueuedConnection);
+        return;
+    }
     m_reloading = true;
-    beginResetModel();
+    takeOver();
+    m_reloading = false;
+    m_reloadWaits = false;
+    Q_EMIT reloaded();
+}
+
+void OutlineViewModel::takeOver()
+{
     m_view.numberOfChildren(nullptr); // has a stale tree read now, not between two of Qt's questions
-    m_columns = m_view.columns();
+    std::vector<ViewColumn> columns = m_view.columns();
+    applyFilter(columns);
+    if (areSame(columns, m_columns) && standsAsItStood()) {
+        tellOfChangedData();
+        return;
+    }
+    beginResetModel();
+    m_columns = std::move(columns);
     m_branches.clear();
     branchOf(nullptr, nullptr, 0);
     endResetModel();
-    m_reloading = false;
 }
 
-bool OutlineViewModel::matches(const Node& node, const QStringList& words) const
+bool OutlineViewModel::standsAsItStood() const
 {
-    QString texts;
-    for (const ViewColumn& column : m_columns) {
-        if (column.hidden || column.kind == CellKind::CheckBox || column.kind == CellKind::Image)
-            continue;
-        texts += cellText(m_view.value(node, column.identifier), column.kind, m_calendar, QLocale());
-        texts += u'\n';
+    return !m_branches.empty() && std::ranges::all_of(m_branches, [this](const auto& entry) {
+        return shownChildren(entry.second->holder) == entry.second->children;
+    });
+}
+
+void OutlineViewModel::tellOfChangedData()
+{
+    std::vector<Branch*> branches; // who hears of it may ask for more of them
+    for (const auto& entry : m_branches)
+        branches.push_back(entry.second.get());
+    for (Branch* const branch : branches) {
+        const int last = static_cast<int>(branch->children.size()) - 1;
+        if (last >= 0)
+            Q_EMIT dataChanged(createIndex(0, 0, branch), createIndex(last, columnCount() - 1, branch));
     }
-    return matchesAllWords(words, texts);
 }
 
-bool OutlineViewModel::matchesWithin(const Node& node, const QStringList& words) const
+void OutlineViewModel::applyFilter(const std::vector<ViewColumn>& columns)
 {
-    if (matches(node, words))
-        return true;
+    m_matching.clear();
+    if (m_filter.isEmpty())
+        return;
+    const RowFilter filter(m_filter, columns, m_calendar);
+    const int count = m_view.numberOfChildren(nullptr);
+    for (int row = 0; row < count; ++row)
+        collectMatching(m_view.child(nullptr, row), filter);
+}
+
+bool OutlineViewModel::collectMatching(const Node& node, const RowFilter& filter)
+{
+    if (!node)
+        return false;
+    bool shown = filter.matches([&](const QString& identifier) { return m_view.value(node, identifier); });
     const int count = m_view.numberOfChildren(node);
+    for (int row = 0; row < count; ++row)
+        shown = collectMatching(m_view.child(node, row), filter) || shown;
+    if (shown)
+        m_matching.insert(node.get());
+    return shown;
+}
+
+std::vector<OutlineViewModel::Node> OutlineViewModel::shownChildren(const Node& holder) const
+{
+    std::vector<Node> children;
+    const int count = m_view.numberOfChildren(holder);
+    children.reserve(static_cast<std::size_t>(count));
     for (int row = 0; row < count; ++row) {
-        if (matchesWithin(m_view.child(node, row), words))
-            return true;
+        Node child = m_view.child(holder, row);
+        if (child && (m_filter.isEmpty() || m_matching.contains(child.get())))
+            children.push_back(std::move(child));
     }
-    return false;
+    return children;
 }
 
 OutlineViewModel::Branch* OutlineViewModel::branchOf(const Node& holder, Branch* above, int row) const
@@ -90,18 +141,8 @@ OutlineViewModel::Branch* OutlineViewModel::branchOf(const Node& holder, Branch*
     std::unique_ptr<Branch>& branch = m_branches[holder.get()];
     if (branch)
         return branch.get();
-    branch = std::make_unique<Branch>();
-    branch->holder = holder;
-    branch->above = above;
-    branch->rowInAbove = row;
-    const QStringList words = filterWords(m_filter);
-    const int count = m_view.numberOfChildren(holder);
-    branch->children.reserve(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i) {
-        Node child = m_view.child(holder, i);
-        if (child && (words.isEmpty() || matchesWithin(child, words)))
-            branch->children.push_back(std::move(child));
-    }
+    const QuestionGuard asking(m_questions);
+    branch = std::make_unique<Branch>(Branch{holder, above, row, shownChildren(holder)});
     return branch.get();
 }
 
@@ -155,6 +196,7 @@ bool OutlineViewModel::hasChildren(const QModelIndex& parent) const
 {
     if (parent.column() > 0)
         return false;
+    const QuestionGuard asking(m_questions);
     return parent.isValid() && m_filter.isEmpty() ? m_view.isItemExpandable(node(parent))
                                                   : rowCount(parent) > 0;
 }
@@ -169,6 +211,7 @@ QVariant OutlineViewModel::data(const QModelIndex& index, int role) const
     const Node shown = node(index);
     if (!shown || role == Qt::SizeHintRole || role == Qt::StatusTipRole || role == Qt::WhatsThisRole)
         return {};
+    const QuestionGuard asking(m_questions);
     const ViewColumn& column = m_columns[static_cast<std::size_t>(index.column())];
     return cellData(m_view.value(shown, column.identifier), m_view.cellStyle(shown, column.identifier),
                     column, role, {m_calendar, QGuiApplication::font(), QGuiApplication::palette()});
@@ -196,6 +239,7 @@ Qt::ItemFlags OutlineViewModel::flags(const QModelIndex& index) const
     const Node shown = node(index);
     if (!shown)
         return Qt::ItemIsDropEnabled; // the empty ground below the rows is the top level
+    const QuestionGuard asking(m_questions);
     const ViewColumn& column = m_columns[static_cast<std::size_t>(index.column())];
     return cellFlags(column, column.editable ? m_view.value(shown, column.identifier) : QVariant()) |
            Qt::ItemIsDragEnabled | Qt::ItemIsDropEnabled;
@@ -219,14 +263,19 @@ QMimeData* OutlineViewModel::mimeData(const QModelIndexList& indexes) const
 {
     if (indexes.isEmpty())
         return nullptr;
+    const QuestionGuard asking(m_questions);
+    const QString text = m_view.pasteboardText(node(indexes.first()));
+    if (text.isEmpty())
+        return nullptr; // a view whose rows are not dragged
     auto* const data = new QMimeData;
-    data->setText(m_view.pasteboardText(node(indexes.first())));
+    data->setText(text);
     return data;
 }
 
 bool OutlineViewModel::canDropMimeData(const QMimeData* data, Qt::DropAction, int, int,
                                        const QModelIndex& parent) const
 {
+    const QuestionGuard asking(m_questions);
     return data && data->hasText() && m_view.validateDrop(data->text(), node(parent));
 }
 

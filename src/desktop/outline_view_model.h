@@ -7,12 +7,18 @@
 
 #include <memory>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace zelvor {
 
+class RowFilter;
+
 // Any OutlineView as a Qt item model: one model for all trees. It makes one small object for each parent
 // whose rows were asked for, none for a row. A filter leaves the nodes that match, with those above them.
+//
+// The view tells of new rows whenever it likes, also while it answers Qt; the model takes them over only
+// between Qt's questions.
 class OutlineViewModel : public QAbstractItemModel {
     Q_OBJECT
 
@@ -53,6 +59,10 @@ public:
                       const QModelIndex& parent) override;
     Qt::DropActions supportedDropActions() const override { return Qt::MoveAction | Qt::CopyAction; }
 
+Q_SIGNALS:
+    // The view's nodes were taken over: as a reset, or, where they stand as they stood, as changed data.
+    void reloaded();
+
 private:
     // The rows below one node.
     struct Branch {
@@ -63,18 +73,26 @@ private:
     };
 
     void reload();
+    void takeOver();
+    bool standsAsItStood() const;
+    std::vector<Node> shownChildren(const Node& holder) const;
     Branch* branchBelow(const QModelIndex& parent) const;
     Branch* branchOf(const Node& holder, Branch* above, int row) const;
-    bool matches(const Node& node, const QStringList& words) const;
-    bool matchesWithin(const Node& node, const QStringList& words) const;
+    // Collects the node and those below it that match or have a match below them.
+    bool collectMatching(const Node& node, const RowFilter& filter);
+    void applyFilter(const std::vector<ViewColumn>& columns);
+    void tellOfChangedData();
 
     OutlineView& m_view;
     const Calendar& m_calendar;
     std::vector<ViewColumn> m_columns;
     QString m_filter;
+    std::unordered_set<const TableModel*> m_matching; // unused without a filter
     // By the holder; made when asked for.
     mutable std::unordered_map<const TableModel*, std::unique_ptr<Branch>> m_branches;
     bool m_reloading = false;
+    bool m_reloadWaits = false;
+    mutable int m_questions = 0; // of Qt's, being answered
 };
 
 } // namespace zelvor

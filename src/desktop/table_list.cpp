@@ -2,6 +2,7 @@
 
 #include "desktop/list_columns.h"
 #include "desktop/list_delegate.h"
+#include "desktop/number_entry.h"
 #include "desktop/theme.h"
 
 #include <QtCore/QEvent>
@@ -10,36 +11,55 @@
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
 
+#include <algorithm>
+#include <utility>
+
 namespace zelvor {
 
-TableList::TableList(TableView& view, const Calendar& calendar, QWidget* parent)
-    : QTableView(parent), m_model(new TableViewModel(view, calendar, this))
+namespace {
+
+constexpr int sampledRows = 300; // for the widths of columns: the first ones and some of all others
+
+bool isTick(const QModelIndex& index)
 {
+    return index.flags() & Qt::ItemIsUserCheckable;
+}
+
+} // namespace
+
+TableList::TableList(TableView& view, const Calendar& calendar, QWidget* parent)
+    : QTableView(parent), m_model(new TableViewModel(view, calendar, this)),
+      m_columns(new ListColumns(*this, *horizontalHeader()))
+{
+    auto* const delegate = new ListDelegate(this);
     setModel(m_model);
-    setItemDelegate(new ListDelegate(this));
+    setItemDelegate(delegate);
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
-    setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::EditKeyPressed);
+    setEditTriggers(QAbstractItemView::AnyKeyPressed);
     setTabKeyNavigation(false);
     setShowGrid(false);
     setAlternatingRowColors(false);
     setWordWrap(false);
-    setFrameShape(QFrame::NoFrame);
+    setFrameShape(QFrame::StyledPanel);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(1);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(listRowHeight(fontMetrics()));
-    prepareHeader(*horizontalHeader());
-    connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
-            [this](int column) { sortByClick(*m_model, *horizontalHeader(), m_model->columns(), column); });
-    connect(m_model, &QAbstractItemModel::modelReset, this, [this] {
-        adoptColumns();
-        restoreSelection();
-        paintGround();
+    connect(m_model, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
+        m_scrolled = {horizontalScrollBar()->value(), verticalScrollBar()->value()};
     });
+    connect(m_model, &TableViewModel::reloaded, this, [this] { takeOver(); });
     connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] { tellSelection(); });
-    connect(this, &QAbstractItemView::doubleClicked, this, [this] { runAction(); });
+    connect(this, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex& index) {
+        if (!isTick(index))
+            runAction();
+    });
+    connect(delegate, &ListDelegate::entered, this, [this] {
+        Q_EMIT cellEntered(currentRow(), currentIndex().data(identifierRole).toString());
+    });
     adoptColumns();
     paintGround();
 }
@@ -62,13 +82,25 @@ void TableList::selectViewRow(int row)
     setCurrentIndex(m_model->index(shown, column));
 }
 
-QRect TableList::globalRowRect(int viewRow) const
+QRect TableList::globalRowRect(int viewRow)
 {
     const int shown = m_model->shownRow(viewRow);
     if (shown < 0)
         return {viewport()->mapToGlobal(QPoint()), QSize(1, 1)};
+    scrollTo(m_model->index(shown, std::max(columnAt(0), 0)));
     const QRect row(0, rowViewportPosition(shown), viewport()->width(), rowHeight(shown));
     return {viewport()->mapToGlobal(row.topLeft()), row.size()};
+}
+
+bool TableList::editCell(int viewRow, const QString& identifier)
+{
+    const QModelIndex cell =
+        m_model->index(m_model->shownRow(viewRow), m_model->columnWithIdentifier(identifier));
+    if (!(cell.flags() & Qt::ItemIsEditable))
+        return false;
+    setCurrentIndex(cell);
+    edit(cell);
+    return true;
 }
 
 void TableList::refresh()
@@ -91,6 +123,11 @@ void TableList::keyPressEvent(QKeyEvent* event)
 
 void TableList::runAction()
 {
+    const QModelIndex current = currentIndex();
+    if (current.flags() & Qt::ItemIsEditable) {
+        edit(current);
+        return;
+    }
     const int row = currentRow();
     if (row < 0 || (rowAction && rowAction(row)))
         return;
@@ -99,23 +136,57 @@ void TableList::runAction()
 
 void TableList::adoptColumns()
 {
-    const std::vector<ViewColumn>& columns = m_model->columns();
-    for (int i = 0; i < static_cast<int>(columns.size()); ++i)
-        setColumnHidden(i, columns[static_cast<std::size_t>(i)].hidden);
-    std::vector<QString> shown = shownIdentifiers(columns);
-    if (shown == m_widthsOf || m_model->rowCount() == 0)
-        return;
-    m_widthsOf = std::move(shown);
-    fitColumns(*horizontalHeader(), *m_model, columns, fontMetrics());
+    std::vector<QModelIndex> sample;
+    const int rows = m_model->rowCount();
+    const int step = std::max(1, 2 * rows / sampledRows);
+    for (int row = 0; row < rows; row += row < sampledRows / 2 ? 1 : step)
+        sample.push_back(m_model->index(row, 0));
+    m_columns->adopt(m_model->columns(), sample);
+}
+
+void TableList::takeOver()
+{
+    adoptColumns();
+    restoreSelection();
+    restoreScroll();
+    m_columns->checkSortMark();
+    paintGround();
 }
 
 void TableList::restoreSelection()
 {
-    m_restoring = true;
-    const int row = m_model->view().selectedRow();
-    selectViewRow(row);
-    m_restoring = false;
+    TableView& view = m_model->view();
+    // What a filter hides is not selected: nothing is done to a row that nobody sees.
+    if (!m_model->filter().isEmpty() && m_model->shownRow(view.selectedRow()) < 0)
+        view.selectRow(-1);
+    const bool moves = m_model->viewRow(currentIndex().row()) != view.selectedRow();
+    if (moves) {
+        m_restoring = true;
+        setAutoScroll(false);
+        selectViewRow(view.selectedRow());
+        setAutoScroll(true);
+        m_restoring = false;
+    }
     Q_EMIT currentRowChanged(currentRow());
+}
+
+// Nothing scrolls by itself; only another filter shows other rows.
+void TableList::restoreScroll()
+{
+    if (std::exchange(m_shownFilter, m_model->filter()) != m_model->filter()) {
+        if (currentIndex().isValid())
+            scrollTo(currentIndex());
+        else
+            scrollToTop();
+        return;
+    }
+    if (m_scrolled.isNull())
+        return;
+    executeDelayedItemsLayout();
+    updateGeometries();
+    horizontalScrollBar()->setValue(m_scrolled.x());
+    verticalScrollBar()->setValue(m_scrolled.y());
+    m_scrolled = {};
 }
 
 void TableList::tellSelection()
@@ -128,10 +199,12 @@ void TableList::tellSelection()
 
 void TableList::paintGround()
 {
-    QPalette ground = palette();
-    ground.setColor(QPalette::Base, groundColor(m_model->view().groundColor(), QGuiApplication::palette()));
-    if (ground != palette())
-        setPalette(ground);
+    QPalette own;
+    const Color& ground = m_model->view().groundColor();
+    if (!(ground == whiteColor))
+        own.setColor(QPalette::Base, groundColor(ground, QGuiApplication::palette()));
+    if (own.color(QPalette::Base) != palette().color(QPalette::Base))
+        setPalette(own);
 }
 
 void TableList::showEvent(QShowEvent* event)
@@ -143,10 +216,36 @@ void TableList::showEvent(QShowEvent* event)
 void TableList::changeEvent(QEvent* event)
 {
     QTableView::changeEvent(event);
-    if (event->type() == QEvent::FontChange)
+    if (event->type() == QEvent::FontChange) {
         verticalHeader()->setDefaultSectionSize(listRowHeight(fontMetrics()));
+        m_columns->forgetMeasures();
+        adoptColumns();
+    }
     if (event->type() == QEvent::ApplicationPaletteChange)
         paintGround();
+}
+
+void TableList::resizeEvent(QResizeEvent* event)
+{
+    QTableView::resizeEvent(event);
+    m_columns->layOut();
+}
+
+void TableList::commitData(QWidget* editor)
+{
+    const NumberEntry* const entry = NumberEntry::of(editor);
+    if (!entry || !entry->isWrong())
+        QTableView::commitData(editor);
+}
+
+// An editor with a wrong number is closed by Escape only.
+void TableList::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    NumberEntry* const entry = NumberEntry::of(editor);
+    if (entry && entry->isWrong() && hint != QAbstractItemDelegate::RevertModelCache)
+        entry->complain();
+    else
+        QTableView::closeEditor(editor, hint);
 }
 
 } // namespace zelvor

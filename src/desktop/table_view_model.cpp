@@ -1,7 +1,7 @@
 #include "desktop/table_view_model.h"
 
-#include "core/formats.h"
-#include "desktop/cell_text.h"
+#include "desktop/question_guard.h"
+#include "desktop/row_filter.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QGuiApplication>
@@ -10,17 +10,6 @@
 #include <utility>
 
 namespace zelvor {
-
-bool matchesAllWords(const QStringList& words, const QString& text)
-{
-    return std::ranges::all_of(
-        words, [&text](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });
-}
-
-QStringList filterWords(const QString& filter)
-{
-    return filter.simplified().split(u' ', Qt::SkipEmptyParts);
-}
 
 TableViewModel::TableViewModel(TableView& view, const Calendar& calendar, QObject* parent)
     : QAbstractTableModel(parent), m_view(view), m_calendar(calendar), m_columns(view.columns())
@@ -60,16 +49,14 @@ void TableViewModel::setFilter(const QString& filter)
 {
     if (filter.simplified() == m_filter)
         return;
-    beginResetModel();
     m_filter = filter.simplified();
-    applyFilter();
-    endResetModel();
+    reload();
 }
 
 void TableViewModel::refresh()
 {
     const int rows = m_view.numberOfRows(); // a stale view reads, and tells of it by itself
-    if (m_filter.isEmpty() && rows != m_rowCount)
+    if (m_reloadWaits || (m_filter.isEmpty() && rows != m_rowCount))
         reload();
 }
 
@@ -78,40 +65,47 @@ void TableViewModel::reload()
 {
     if (m_reloading)
         return;
-    m_reloading = true;
-    beginResetModel();
-    m_columns = m_view.columns();
-    applyFilter();
-    endResetModel();
-    m_reloading = false;
-}
-
-void TableViewModel::applyFilter()
-{
-    const int rows = m_view.numberOfRows();
-    m_filteredRows.clear();
-    if (m_filter.isEmpty()) {
-        m_rowCount = rows;
+    if (m_questions > 0) {
+        if (!std::exchange(m_reloadWaits, true))
+            QMetaObject::invokeMethod(this, &TableViewModel::refresh, Qt::QueuedConnection);
         return;
     }
-    const QStringList words = filterWords(m_filter);
-    for (int row = 0; row < rows; ++row) {
-        if (rowMatches(row, words))
-            m_filteredRows.push_back(row);
-    }
-    m_rowCount = static_cast<int>(m_filteredRows.size());
+    m_reloading = true;
+    takeOver();
+    m_reloading = false;
+    m_reloadWaits = false;
+    Q_EMIT reloaded();
 }
 
-bool TableViewModel::rowMatches(int row, const QStringList& words) const
+void TableViewModel::takeOver()
 {
-    QString texts;
-    for (const ViewColumn& column : m_columns) {
-        if (column.hidden || column.kind == CellKind::CheckBox || column.kind == CellKind::Image)
-            continue;
-        texts += cellText(m_view.value(row, column.identifier), column.kind, m_calendar, QLocale());
-        texts += u'\n';
+    const int rows = m_view.numberOfRows();
+    std::vector<ViewColumn> columns = m_view.columns();
+    std::vector<int> filtered = matchingRows(rows, columns);
+    const int shown = m_filter.isEmpty() ? rows : static_cast<int>(filtered.size());
+    if (areSame(columns, m_columns) && shown == m_rowCount && filtered == m_filteredRows) {
+        if (shown > 0)
+            Q_EMIT dataChanged(index(0, 0), index(shown - 1, columnCount() - 1));
+        return;
     }
-    return matchesAllWords(words, texts);
+    beginResetModel();
+    m_columns = std::move(columns);
+    m_filteredRows = std::move(filtered);
+    m_rowCount = shown;
+    endResetModel();
+}
+
+std::vector<int> TableViewModel::matchingRows(int rows, const std::vector<ViewColumn>& columns) const
+{
+    std::vector<int> matching;
+    if (m_filter.isEmpty())
+        return matching;
+    const RowFilter filter(m_filter, columns, m_calendar);
+    for (int row = 0; row < rows; ++row) {
+        if (filter.matches([&](const QString& identifier) { return m_view.value(row, identifier); }))
+            matching.push_back(row);
+    }
+    return matching;
 }
 
 int TableViewModel::rowCount(const QModelIndex& parent) const
@@ -129,6 +123,7 @@ QVariant TableViewModel::data(const QModelIndex& index, int role) const
     const int row = index.isValid() ? viewRow(index.row()) : -1;
     if (row < 0 || index.column() >= static_cast<int>(m_columns.size()))
         return {};
+    const QuestionGuard asking(m_questions);
     const ViewColumn& column = m_columns[static_cast<std::size_t>(index.column())];
     if (role == Qt::SizeHintRole || role == Qt::StatusTipRole || role == Qt::WhatsThisRole)
         return {};
@@ -158,6 +153,7 @@ Qt::ItemFlags TableViewModel::flags(const QModelIndex& index) const
     const int row = index.isValid() ? viewRow(index.row()) : -1;
     if (row < 0)
         return Qt::NoItemFlags;
+    const QuestionGuard asking(m_questions);
     const ViewColumn& column = m_columns[static_cast<std::size_t>(index.column())];
     return cellFlags(column, column.editable ? m_view.value(row, column.identifier) : QVariant());
 }

@@ -12,6 +12,9 @@ namespace zelvor {
 // Any TableView as a Qt item model: one model for all lists. It keeps no copy of the rows. The view's hidden
 // columns stay in the model; whoever shows it hides them. A filter leaves the rows that hold every typed
 // word in one of their texts.
+//
+// The view tells of new rows whenever it likes, also while it answers Qt; the model takes them over only
+// between Qt's questions.
 class TableViewModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -39,10 +42,15 @@ public:
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     void sort(int column, Qt::SortOrder order) override;
 
+Q_SIGNALS:
+    // The view's rows were taken over: as a reset, or, where rows and columns stand as they stood, as changed
+    // data.
+    void reloaded();
+
 private:
     void reload();
-    void applyFilter();
-    bool rowMatches(int row, const QStringList& words) const;
+    void takeOver();
+    std::vector<int> matchingRows(int rows, const std::vector<ViewColumn>& columns) const;
 
     TableView& m_view;
     const Calendar& m_calendar;
@@ -51,10 +59,8 @@ private:
     QString m_filter;
     std::vector<int> m_filteredRows; // view rows; unused without a filter
     bool m_reloading = false;
+    bool m_reloadWaits = false;
+    mutable int m_questions = 0; // of Qt's, being answered
 };
-
-// Whether each word stands in one of the texts; letters of either case are the same.
-bool matchesAllWords(const QStringList& words, const QString& text);
-QStringList filterWords(const QString& filter);
 
 } // namespace zelvor

@@ -1,10 +1,11 @@
 #include "desktop/theme.h"
 
+#include "desktop/desktop_style.h"
+
+#include <QtGui/QFontDatabase>
+#include <QtGui/QFontMetricsF>
 #include <QtGui/QGuiApplication>
-#include <QtGui/QStyleHints>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QStyle>
-#include <QtWidgets/QStyleFactory>
 
 #include <algorithm>
 #include <cmath>
@@ -100,9 +101,10 @@ double luminance(const QColor& color)
 
 void applyAppearance(QApplication& application, Appearance appearance)
 {
-    application.setStyle(QStyleFactory::create(u"Fusion"_s));
+    application.setStyle(new DesktopStyle);
+    application.setPalette(QPalette()); // the desktop's own again, to look at it
     const bool dark = appearance == Appearance::Dark ||
-                      (appearance == Appearance::System && isDark(application.style()->standardPalette()));
+                      (appearance == Appearance::System && isDark(QGuiApplication::palette()));
     application.setPalette(dark ? darkPalette() : lightPalette());
 }
 
@@ -157,6 +159,32 @@ QFont cellFont(CellFont font, const QFont& base)
     if (font == CellFont::GatheringBold14)
         result.setPointSizeF(base.pointSizeF() + 1);
     return result;
+}
+
+namespace {
+
+bool hasTabularFigures(const QFont& font)
+{
+    const QFontMetricsF metrics(font);
+    const qreal width = metrics.horizontalAdvance(u'0');
+    return std::ranges::all_of(u"123456789"_s, [&](QChar figure) {
+        return std::abs(metrics.horizontalAdvance(figure) - width) < 0.01;
+    });
+}
+
+} // namespace
+
+QFont figureFont(const QFont& base)
+{
+    for (const QString& family : {base.family(), u"DejaVu Sans"_s, u"Liberation Sans"_s, u"Noto Sans"_s}) {
+        QFont font = base;
+        font.setFamilies({family});
+        if (hasTabularFigures(font))
+            return font;
+    }
+    QFont font = base;
+    font.setFamilies({QFontDatabase::systemFont(QFontDatabase::FixedFont).family()});
+    return font;
 }
 
 QFont titleFont(const QFont& base)

@@ -27,6 +27,9 @@ QColor lineColor(const QPalette& palette);
 double contrast(const QColor& a, const QColor& b);
 
 QFont cellFont(CellFont font, const QFont& base);
+// The font of numbers beside that one: itself when its figures are all of one width, else the nearest one
+// whose figures are.
+QFont figureFont(const QFont& base);
 // Sizes of the one type family, from the desktop's own.
 QFont titleFont(const QFont& base); // +4, bold
 QFont noteFont(const QFont& base);  // -1

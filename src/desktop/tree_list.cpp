@@ -5,14 +5,26 @@
 #include "desktop/theme.h"
 
 #include <QtCore/QEvent>
+#include <QtGui/QDragMoveEvent>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QHeaderView>
+#include <QtWidgets/QScrollBar>
+
+#include <utility>
 
 namespace zelvor {
 
+namespace {
+
+constexpr std::size_t sampledRows = 300; // for the widths of columns
+constexpr int openUnderDrag = 700;       // milliseconds over a closed group
+
+} // namespace
+
 TreeList::TreeList(OutlineView& view, const Calendar& calendar, QWidget* parent)
-    : QTreeView(parent), m_model(new OutlineViewModel(view, calendar, this))
+    : QTreeView(parent), m_model(new OutlineViewModel(view, calendar, this)),
+      m_columns(new ListColumns(*this, *header()))
 {
     setModel(m_model);
     setItemDelegate(new ListDelegate(this));
@@ -22,50 +34,50 @@ TreeList::TreeList(OutlineView& view, const Calendar& calendar, QWidget* parent)
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
     setExpandsOnDoubleClick(false);
-    setFrameShape(QFrame::NoFrame);
+    setFrameShape(QFrame::StyledPanel);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     setDragEnabled(true);
     setAcceptDrops(true);
     setDropIndicatorShown(true);
     setDragDropMode(QAbstractItemView::DragDrop);
     setDefaultDropAction(Qt::MoveAction);
-    prepareHeader(*header());
-    connect(header(), &QHeaderView::sectionClicked, this,
-            [this](int column) { sortByClick(*m_model, *header(), m_model->columns(), column); });
-    connect(m_model, &QAbstractItemModel::modelReset, this, [this] { restoreRows(); });
-    connect(this, &QTreeView::expanded, this, [this](const QModelIndex& index) {
-        if (!m_restoring && m_model->filter().isEmpty())
-            m_model->view().setItemExpanded(m_model->node(index), true);
+    setAutoExpandDelay(openUnderDrag);
+    connect(m_model, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
+        m_scrolled = {horizontalScrollBar()->value(), verticalScrollBar()->value()};
     });
-    connect(this, &QTreeView::collapsed, this, [this](const QModelIndex& index) {
-        if (!m_restoring && m_model->filter().isEmpty())
-            m_model->view().setItemExpanded(m_model->node(index), false);
+    connect(m_model, &OutlineViewModel::reloaded, this, [this] { takeOver(); });
+    connect(this, &QTreeView::expanded, this, [this](const QModelIndex& index) { tellExpanded(index, true); });
+    connect(this, &QTreeView::collapsed, this,
+            [this](const QModelIndex& index) { tellExpanded(index, false); });
+    connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] { tellSelection(); });
+    connect(this, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex& index) {
+        if (!(index.flags() & Qt::ItemIsUserCheckable))
+            runAction();
     });
-    connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] {
-        if (!m_restoring)
-            m_model->view().selectItem(currentNode());
-        Q_EMIT currentNodeChanged();
-    });
-    connect(this, &QAbstractItemView::doubleClicked, this, [this] { runAction(); });
-    restoreRows();
+    takeOver();
 }
 
 void TreeList::selectNode(const OutlineView::Node& node)
 {
     const QModelIndex index = m_model->indexOf(node);
+    if (!index.isValid()) {
+        clearSelection();
+        setCurrentIndex({});
+        return;
+    }
     for (QModelIndex above = index.parent(); above.isValid(); above = above.parent())
         expand(above);
-    const int column = firstShownColumn(m_model->columns());
-    setCurrentIndex(index.isValid() ? index.siblingAtColumn(column) : QModelIndex());
-    if (!index.isValid())
-        clearSelection();
+    setCurrentIndex(index.siblingAtColumn(firstShownColumn(m_model->columns())));
 }
 
-QRect TreeList::globalRowRect(const OutlineView::Node& node) const
+QRect TreeList::globalRowRect(const OutlineView::Node& node)
 {
     const QModelIndex index = m_model->indexOf(node);
+    if (index.isValid())
+        scrollTo(index.siblingAtColumn(firstShownColumn(m_model->columns())));
     const QRect cell = visualRect(index.siblingAtColumn(firstShownColumn(m_model->columns())));
-    if (cell.isEmpty())
+    if (!index.isValid() || cell.isEmpty())
         return {viewport()->mapToGlobal(QPoint()), QSize(1, 1)};
     return {viewport()->mapToGlobal(QPoint(0, cell.top())), QSize(viewport()->width(), cell.height())};
 }
@@ -78,8 +90,6 @@ void TreeList::refresh()
 void TreeList::setFilter(const QString& filter)
 {
     m_model->setFilter(filter);
-    if (!filter.trimmed().isEmpty())
-        expandAll();
 }
 
 void TreeList::keyPressEvent(QKeyEvent* event)
@@ -103,31 +113,58 @@ void TreeList::runAction()
     m_model->view().doubleAction(node);
 }
 
-void TreeList::adoptColumns()
+// What the user opens and closes under a filter is the filter's affair; the view keeps its own.
+void TreeList::tellExpanded(const QModelIndex& index, bool expanded)
 {
-    const std::vector<ViewColumn>& columns = m_model->columns();
-    for (int i = 0; i < static_cast<int>(columns.size()); ++i)
-        setColumnHidden(i, columns[static_cast<std::size_t>(i)].hidden);
-    // The arrows of the tree stand in the first column that shows.
-    setTreePosition(firstShownColumn(columns));
-    std::vector<QString> shown = shownIdentifiers(columns);
-    if (shown == m_widthsOf || m_model->rowCount() == 0)
+    if (m_restoring || !m_model->filter().isEmpty())
         return;
-    m_widthsOf = std::move(shown);
-    fitColumns(*header(), *m_model, columns, fontMetrics());
+    m_model->view().setItemExpanded(m_model->node(index), expanded);
+    // A selected row goes out of sight with the group that holds it: the group has the selection then.
+    for (QModelIndex above = currentIndex().parent(); !expanded && above.isValid(); above = above.parent()) {
+        if (above == index)
+            setCurrentIndex(index.siblingAtColumn(firstShownColumn(m_model->columns())));
+    }
 }
 
-void TreeList::restoreRows()
+void TreeList::tellSelection()
+{
+    if (!m_restoring)
+        m_model->view().selectItem(currentNode());
+    Q_EMIT currentNodeChanged();
+}
+
+void TreeList::sampleRows(const QModelIndex& parent, std::vector<QModelIndex>& sample) const
+{
+    const int rows = m_model->rowCount(parent);
+    for (int row = 0; row < rows && sample.size() < sampledRows; ++row) {
+        sample.push_back(m_model->index(row, 0, parent));
+        if (isExpanded(sample.back()))
+            sampleRows(sample.back(), sample);
+    }
+}
+
+void TreeList::adoptColumns()
+{
+    // The arrows of the tree stand in the first column that shows.
+    setTreePosition(firstShownColumn(m_model->columns()));
+    std::vector<QModelIndex> sample;
+    sampleRows({}, sample);
+    m_columns->adopt(m_model->columns(), sample);
+}
+
+void TreeList::takeOver()
 {
     m_restoring = true;
-    adoptColumns();
     if (m_model->filter().isEmpty())
         restoreExpanded({});
     else
         expandAll();
-    selectNode(m_model->view().selectedItem());
-    paintGround();
+    adoptColumns();
+    restoreSelection();
     m_restoring = false;
+    restoreScroll();
+    m_columns->checkSortMark();
+    paintGround();
 }
 
 // Only open branches are entered, so a closed tree of any size costs nothing.
@@ -138,17 +175,62 @@ void TreeList::restoreExpanded(const QModelIndex& parent)
         const QModelIndex index = m_model->index(row, 0, parent);
         if (!m_model->view().isItemExpanded(m_model->node(index)))
             continue;
-        expand(index);
+        if (!isExpanded(index))
+            expand(index);
         restoreExpanded(index);
     }
 }
 
+bool TreeList::isShown(const QModelIndex& index) const
+{
+    for (QModelIndex above = index.parent(); above.isValid(); above = above.parent()) {
+        if (!isExpanded(above))
+            return false;
+    }
+    return index.isValid();
+}
+
+void TreeList::restoreSelection()
+{
+    OutlineView& view = m_model->view();
+    const QModelIndex selected = m_model->indexOf(view.selectedItem());
+    // What a filter hides is not selected: nothing is done to a row that nobody sees.
+    if (!selected.isValid() && !m_model->filter().isEmpty())
+        view.selectItem(nullptr);
+    if (selected.isValid() && currentNode() == view.selectedItem())
+        return;
+    setAutoScroll(false);
+    selectNode(isShown(selected) ? view.selectedItem() : nullptr);
+    setAutoScroll(true);
+}
+
+// Nothing scrolls by itself; only another filter shows other rows.
+void TreeList::restoreScroll()
+{
+    if (std::exchange(m_shownFilter, m_model->filter()) != m_model->filter()) {
+        if (currentIndex().isValid())
+            scrollTo(currentIndex());
+        else
+            scrollToTop();
+        return;
+    }
+    if (m_scrolled.isNull())
+        return;
+    executeDelayedItemsLayout();
+    updateGeometries();
+    horizontalScrollBar()->setValue(m_scrolled.x());
+    verticalScrollBar()->setValue(m_scrolled.y());
+    m_scrolled = {};
+}
+
 void TreeList::paintGround()
 {
-    QPalette ground = palette();
-    ground.setColor(QPalette::Base, groundColor(m_model->view().groundColor(), QGuiApplication::palette()));
-    if (ground != palette())
-        setPalette(ground);
+    QPalette own;
+    const Color& ground = m_model->view().groundColor();
+    if (!(ground == whiteColor))
+        own.setColor(QPalette::Base, groundColor(ground, QGuiApplication::palette()));
+    if (own.color(QPalette::Base) != palette().color(QPalette::Base))
+        setPalette(own);
 }
 
 void TreeList::showEvent(QShowEvent* event)
@@ -160,8 +242,34 @@ void TreeList::showEvent(QShowEvent* event)
 void TreeList::changeEvent(QEvent* event)
 {
     QTreeView::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        m_columns->forgetMeasures();
+        adoptColumns();
+    }
     if (event->type() == QEvent::ApplicationPaletteChange)
         paintGround();
+}
+
+void TreeList::resizeEvent(QResizeEvent* event)
+{
+    QTreeView::resizeEvent(event);
+    m_columns->layOut();
+}
+
+// A place that refuses the row shows no mark, not even that of the place before.
+void TreeList::dragMoveEvent(QDragMoveEvent* event)
+{
+    setDropIndicatorShown(true);
+    QTreeView::dragMoveEvent(event);
+    setDropIndicatorShown(event->isAccepted());
+}
+
+// The moved row stays in sight.
+void TreeList::dropEvent(QDropEvent* event)
+{
+    QTreeView::dropEvent(event);
+    if (event->isAccepted())
+        selectNode(m_model->view().selectedItem());
 }
 
 } // namespace zelvor

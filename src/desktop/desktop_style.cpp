@@ -1,0 +1,44 @@
+#include "desktop/desktop_style.h"
+
+#include <QtGui/QPainter>
+#include <QtWidgets/QAbstractScrollArea>
+#include <QtWidgets/QStyleFactory>
+#include <QtWidgets/QStyleOption>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zelvor {
+
+DesktopStyle::DesktopStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
+
+int DesktopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* returnData) const
+{
+    switch (hint) {
+    case SH_ComboBox_Popup:
+    case SH_ComboBox_AllowWheelScrolling:
+    case SH_DialogButtonBox_ButtonsHaveIcons:
+        return 0;
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+}
+
+void DesktopStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const
+{
+    const auto* const frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    const auto* const area = qobject_cast<const QAbstractScrollArea*>(widget);
+    if (element != CE_ShapedFrame || !frame || frame->frameShape != QFrame::StyledPanel || !area ||
+        area->focusPolicy() == Qt::NoFocus) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        return;
+    }
+    QColor line = option->palette.color(QPalette::WindowText);
+    line.setAlphaF(0.3F);
+    painter->setPen(area->hasFocus() ? option->palette.color(QPalette::Highlight) : line);
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+}
+
+} // namespace zelvor
