@@ -22,7 +22,7 @@ ListCatalogPage::ListCatalogPage(TableView& view, Catalog catalog, const Calenda
     m_tools.keepTabOrder(searchLine(), list());
     m_tools.setCanEdit(list()->currentRow() >= 0);
     connect(list(), &TableList::currentRowChanged, this, [this](int row) { m_tools.setCanEdit(row >= 0); });
-    connect(list()->tableModel(), &QAbstractItemModel::modelReset, this, [this] { m_sortMark.listReset(); });
+    connect(list()->tableModel(), &TableViewModel::reloaded, this, [this] { m_sortMark.listReset(); });
 }
 
 void ListCatalogPage::serve(CatalogPopover* form, Popover& outlet)

@@ -108,8 +108,8 @@ void ListColumns::fit(int section, const std::vector<QModelIndex>& sample)
             width = std::max(width, textWidth(row.siblingAtColumn(section), m_list.font()) + padding);
     }
     if (isText)
-        width = std::min(width, std::max(minimumWidth(section),
-                                         m_list.fontMetrics().averageCharWidth() * widestText));
+        width = std::min(
+            width, std::max(minimumWidth(section), m_list.fontMetrics().averageCharWidth() * widestText));
     if (!isText || !sample.empty())
         m_fitted[column.identifier] = width;
 }

@@ -88,8 +88,8 @@ void ListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     // In a row that is typed into, the cell of the cursor shows.
     if ((option.state & QStyle::State_HasFocus) &&
         (index.flags() & (Qt::ItemIsEditable | Qt::ItemIsUserCheckable))) {
-        painter->setPen(item.palette.color(
-            option.state & QStyle::State_Selected ? QPalette::HighlightedText : QPalette::Highlight));
+        painter->setPen(item.palette.color(option.state & QStyle::State_Selected ? QPalette::HighlightedText
+                                                                                 : QPalette::Highlight));
         painter->setBrush(Qt::NoBrush);
         painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
     }

@@ -58,7 +58,7 @@ private:
 
     QLineEdit* m_edit;
     int m_decimals;
-    Number m_before;      // as last shown
+    Number m_before;       // as last shown
     bool m_typing = false; // changed by the user since then
     bool m_wrong = false;
 };

@@ -57,9 +57,8 @@ TableList::TableList(TableView& view, const Calendar& calendar, QWidget* parent)
         if (!isTick(index))
             runAction();
     });
-    connect(delegate, &ListDelegate::entered, this, [this] {
-        Q_EMIT cellEntered(currentRow(), currentIndex().data(identifierRole).toString());
-    });
+    connect(delegate, &ListDelegate::entered, this,
+            [this] { Q_EMIT cellEntered(currentRow(), currentIndex().data(identifierRole).toString()); });
     adoptColumns();
     paintGround();
 }

@@ -57,7 +57,7 @@ private:
 
     TableViewModel* m_model;
     ListColumns* m_columns;
-    QPoint m_scrolled;      // before the rows were read anew
+    QPoint m_scrolled; // before the rows were read anew
     QString m_shownFilter;
     bool m_restoring = false;
 };

@@ -23,8 +23,7 @@ TreeCatalogPage::TreeCatalogPage(OutlineView& view, AddMenuButton& adding, const
     m_tools.setCanEdit(list()->currentNode() != nullptr);
     connect(list(), &TreeList::currentNodeChanged, this,
             [this] { m_tools.setCanEdit(list()->currentNode() != nullptr); });
-    connect(list()->outlineModel(), &QAbstractItemModel::modelReset, this,
-            [this] { m_sortMark.listReset(); });
+    connect(list()->outlineModel(), &OutlineViewModel::reloaded, this, [this] { m_sortMark.listReset(); });
 }
 
 void TreeCatalogPage::serve(CatalogPopover* form, Popover& outlet, std::function<OutlineView::Node()> edited,

@@ -47,7 +47,8 @@ TreeList::TreeList(OutlineView& view, const Calendar& calendar, QWidget* parent)
         m_scrolled = {horizontalScrollBar()->value(), verticalScrollBar()->value()};
     });
     connect(m_model, &OutlineViewModel::reloaded, this, [this] { takeOver(); });
-    connect(this, &QTreeView::expanded, this, [this](const QModelIndex& index) { tellExpanded(index, true); });
+    connect(this, &QTreeView::expanded, this,
+            [this](const QModelIndex& index) { tellExpanded(index, true); });
     connect(this, &QTreeView::collapsed, this,
             [this](const QModelIndex& index) { tellExpanded(index, false); });
     connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] { tellSelection(); });
