@@ -5,6 +5,7 @@
 #include "desktop/measures.h"
 #include "desktop/theme.h"
 
+#include <QtCore/QEvent>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QHeaderView>
 
@@ -65,15 +66,26 @@ ListColumns::ListColumns(QAbstractItemView& list, QHeaderView& header)
     header.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     header.setTextElideMode(Qt::ElideRight);
     header.setMinimumSectionSize(3 * measures::rowPadding);
-    connect(&header, &QHeaderView::sectionPressed, this,
-            [this] { m_pressed = {m_header.sortIndicatorSection(), m_header.sortIndicatorOrder()}; });
+    connect(&header, &QHeaderView::sectionPressed, this, [this] {
+        m_pressed = {m_header.sortIndicatorSection(), m_header.sortIndicatorOrder()};
+    });
+    header.viewport()->installEventFilter(this);
     connect(&header, &QHeaderView::sectionClicked, this, &ListColumns::sortByClick);
     connect(&header, &QHeaderView::sectionResized, this, [this](int section, int, int width) {
-        if (m_settingWidths || width == 0 || section >= static_cast<int>(m_columns.size()))
+        if (m_settingWidths || !m_dragging || width == 0 || section >= static_cast<int>(m_columns.size()))
             return;
         m_given[m_columns[static_cast<std::size_t>(section)].identifier] = width;
         layOut();
     });
+}
+
+bool ListColumns::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick)
+        m_dragging = true;
+    if (event->type() == QEvent::MouseButtonRelease)
+        m_dragging = false;
+    return QObject::eventFilter(watched, event);
 }
 
 void ListColumns::adopt(const std::vector<ViewColumn>& columns, const std::vector<QModelIndex>& sample)
@@ -208,6 +220,16 @@ int firstShownColumn(const std::vector<ViewColumn>& columns)
 {
     const auto place = std::ranges::find(columns, false, &ViewColumn::hidden);
     return place == columns.end() ? 0 : static_cast<int>(place - columns.begin());
+}
+
+std::vector<QString> shownIdentifiers(const std::vector<ViewColumn>& columns)
+{
+    std::vector<QString> identifiers;
+    for (const ViewColumn& column : columns) {
+        if (!column.hidden)
+            identifiers.push_back(column.identifier);
+    }
+    return identifiers;
 }
 
 bool tickCurrent(QAbstractItemView& list)

@@ -35,6 +35,9 @@ public:
     // After the rows changed: the mark of the sorted column goes when the rows no longer stand so.
     void checkSortMark();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void fit(int section, const std::vector<QModelIndex>& sample);
     int minimumWidth(int section) const;
@@ -53,11 +56,13 @@ private:
     std::map<QString, int> m_fitted; // by identifier
     std::map<QString, int> m_given;  // by the user
     int m_filler = -1;               // the column that takes what is left
-    Mark m_pressed; // when the mouse went down
+    Mark m_pressed;                  // when the mouse went down
     bool m_settingWidths = false;
+    bool m_dragging = false; // the mouse is down on the header
 };
 
 int firstShownColumn(const std::vector<ViewColumn>& columns);
+std::vector<QString> shownIdentifiers(const std::vector<ViewColumn>& columns);
 // Turns the tick of the current cell, or of the row's only tick that the user may turn. False without one.
 bool tickCurrent(QAbstractItemView& list);
 

@@ -230,6 +230,16 @@ void TableList::resizeEvent(QResizeEvent* event)
     m_columns->layOut();
 }
 
+// Rows that are read anew under an open editor do not touch what is being typed.
+void TableList::dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
+                            const QList<int>& roles)
+{
+    if (state() == EditingState)
+        viewport()->update();
+    else
+        QTableView::dataChanged(topLeft, bottomRight, roles);
+}
+
 void TableList::commitData(QWidget* editor)
 {
     const NumberEntry* const entry = NumberEntry::of(editor);
