@@ -1,7 +1,5 @@
 #include "desktop/list_columns.h"
 
-#include "core/text_order.h"
-#include "desktop/cell_painter.h"
 #include "desktop/measures.h"
 #include "desktop/theme.h"
 
@@ -21,7 +19,6 @@ namespace {
 constexpr int padding = 2 * measures::rowPadding;
 constexpr int widestText = 34;    // in letters: a longer text is cut off at first
 constexpr int narrowestName = 20; // in letters
-constexpr int checkedRows = 1000; // a longer list is taken for sorted by its beginning
 
 int textWidth(const QModelIndex& cell, const QFont& plain)
 {
@@ -43,13 +40,6 @@ int fillerOf(const std::vector<ViewColumn>& columns)
         filler = i;
     }
     return filler;
-}
-
-bool standsBefore(const QVariant& a, const QVariant& b)
-{
-    if (a.typeId() == QMetaType::QString || b.typeId() == QMetaType::QString)
-        return textLess(a.toString(), b.toString());
-    return a.toDouble() < b.toDouble();
 }
 
 } // namespace
@@ -186,34 +176,9 @@ void ListColumns::sortByClick(int section)
     const bool again = m_header.isSortIndicatorShown() && m_pressed.section == section;
     const auto order =
         again && m_pressed.order == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
-    m_header.setSortIndicatorShown(false); // until the rows stand so
-    m_list.model()->sort(section, order);
     m_header.setSortIndicator(section, order);
     m_header.setSortIndicatorShown(true);
-}
-
-void ListColumns::checkSortMark()
-{
-    if (m_header.isSortIndicatorShown() &&
-        !isSorted(m_header.sortIndicatorSection(), m_header.sortIndicatorOrder()))
-        m_header.setSortIndicatorShown(false);
-}
-
-bool ListColumns::isSorted(int section, Qt::SortOrder order) const
-{
-    const QAbstractItemModel& model = *m_list.model();
-    if (section >= model.columnCount())
-        return false;
-    const int rows = std::min(model.rowCount(), checkedRows);
-    for (int row = 1; row < rows; ++row) {
-        QVariant above = model.index(row - 1, section).data(rawValueRole);
-        QVariant below = model.index(row, section).data(rawValueRole);
-        if (order == Qt::DescendingOrder)
-            std::swap(above, below);
-        if (standsBefore(below, above))
-            return false;
-    }
-    return true;
+    m_list.model()->sort(section, order);
 }
 
 int firstShownColumn(const std::vector<ViewColumn>& columns)

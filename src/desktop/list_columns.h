@@ -32,8 +32,6 @@ public:
     void layOut();
     // Another font: what was measured is measured anew.
     void forgetMeasures();
-    // After the rows changed: the mark of the sorted column goes when the rows no longer stand so.
-    void checkSortMark();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -42,7 +40,6 @@ private:
     void fit(int section, const std::vector<QModelIndex>& sample);
     int minimumWidth(int section) const;
     void sortByClick(int section);
-    bool isSorted(int section, Qt::SortOrder order) const;
 
     // Where the mark of the sorted column stands.
     struct Mark {

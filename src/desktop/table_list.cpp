@@ -148,7 +148,6 @@ void TableList::takeOver()
     adoptColumns();
     restoreSelection();
     restoreScroll();
-    m_columns->checkSortMark();
     paintGround();
 }
 

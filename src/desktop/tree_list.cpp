@@ -164,7 +164,6 @@ void TreeList::takeOver()
     restoreSelection();
     m_restoring = false;
     restoreScroll();
-    m_columns->checkSortMark();
     paintGround();
 }
 
