@@ -176,9 +176,9 @@ void ListColumns::sortByClick(int section)
     const bool again = m_header.isSortIndicatorShown() && m_pressed.section == section;
     const auto order =
         again && m_pressed.order == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
+    m_list.model()->sort(section, order);
     m_header.setSortIndicator(section, order);
     m_header.setSortIndicatorShown(true);
-    m_list.model()->sort(section, order);
 }
 
 int firstShownColumn(const std::vector<ViewColumn>& columns)

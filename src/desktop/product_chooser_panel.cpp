@@ -45,7 +45,7 @@ ProductChooserPanel::ProductChooserPanel(ProductDocumentViewController& form, QW
     rows->addWidget(m_tree, 1);
     makePopovers();
     connect(m_search, &QLineEdit::textChanged, m_tree, &TreeList::setFilter);
-    connect(m_tree->outlineModel(), &QAbstractItemModel::modelReset, this, [this] { arrangeColumns(); });
+    connect(m_tree->outlineModel(), &OutlineViewModel::reloaded, this, [this] { arrangeColumns(); });
 }
 
 QWidget* ProductChooserPanel::makeTitle()

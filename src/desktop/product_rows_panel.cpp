@@ -44,7 +44,7 @@ ProductRowsPanel::ProductRowsPanel(ProductDocumentViewController& form, QWidget*
 
 void ProductRowsPanel::connectRows()
 {
-    connect(m_table->tableModel(), &QAbstractItemModel::modelReset, this, [this] { rowsChanged(); });
+    connect(m_table->tableModel(), &TableViewModel::reloaded, this, [this] { rowsChanged(); });
     connect(m_table->horizontalScrollBar(), &QScrollBar::rangeChanged, this, [this] { fitHeight(); });
     connect(m_table, &TableList::currentRowChanged, this, [this] { m_form.mainView.selectionChanged(); });
     connect(m_table, &ProductRowsTable::leftDownwards, m_entry, [this] { m_entry->setFocus(); });
@@ -61,7 +61,10 @@ void ProductRowsPanel::connectRows()
         const int rows = m_form.mainView.numberOfRows();
         if (rows == 0)
             return;
-        m_table->selectViewRow(rows - 1);
+        // Onto the name: the first figure typed there is the amount.
+        const TableViewModel& model = *m_table->tableModel();
+        m_table->setCurrentIndex(
+            model.index(model.shownRow(rows - 1), model.columnWithIdentifier(u"name"_s)));
         m_table->setFocus();
     });
 }

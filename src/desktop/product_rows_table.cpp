@@ -23,6 +23,7 @@ ProductRowsTable::ProductRowsTable(TableView& view, const Calendar& calendar, QW
 {
     setObjectName(u"documentRows"_s);
     setAccessibleName(localized("Rows of the document"));
+    setFrameShape(QFrame::NoFrame); // the sheet around it has one
     setEditTriggers(QAbstractItemView::NoEditTriggers); // editing starts in editCell() alone
     auto* const delegate = new NumberCellDelegate(this);
     setItemDelegate(delegate);
@@ -36,7 +37,7 @@ ProductRowsTable::ProductRowsTable(TableView& view, const Calendar& calendar, QW
         editCurrent();
         return true;
     };
-    connect(tableModel(), &QAbstractItemModel::modelReset, this, [this] {
+    connect(tableModel(), &TableViewModel::reloaded, this, [this] {
         fitNumbers();
         updateGeometry();
     });

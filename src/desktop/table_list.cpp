@@ -122,15 +122,13 @@ void TableList::keyPressEvent(QKeyEvent* event)
 
 void TableList::runAction()
 {
-    const QModelIndex current = currentIndex();
-    if (current.flags() & Qt::ItemIsEditable) {
-        edit(current);
-        return;
-    }
     const int row = currentRow();
     if (row < 0 || (rowAction && rowAction(row)))
         return;
-    m_model->view().doubleAction(row);
+    if (currentIndex().flags() & Qt::ItemIsEditable)
+        edit(currentIndex());
+    else
+        m_model->view().doubleAction(row);
 }
 
 void TableList::adoptColumns()

@@ -23,7 +23,7 @@ TotalStrip::TotalStrip(TableList* list, int rows) : QWidget(list->parentWidget()
     hide();
     list->installEventFilter(this);
     const auto redraw = [this] { update(); };
-    connect(list->tableModel(), &QAbstractItemModel::modelReset, this, &TotalStrip::arrange);
+    connect(list->tableModel(), &TableViewModel::reloaded, this, &TotalStrip::arrange);
     connect(list->tableModel(), &QAbstractItemModel::dataChanged, this, redraw);
     connect(list->horizontalHeader(), &QHeaderView::sectionResized, this, redraw);
     connect(list->horizontalScrollBar(), &QScrollBar::valueChanged, this, redraw);
