@@ -404,6 +404,26 @@ TEST_F(ProductsPage, theSearchLeavesWhatMatchesWithItsGroup)
     EXPECT_EQ(names(), u"Drinks(Juice Water) Food(Bread) Milk Soap"_s);
 }
 
+TEST_F(ProductsPage, aClickOnTheHeadTurnsTheOrderOfNamesAround)
+{
+    openSampleTree();
+    EXPECT_EQ(tree()->header()->sortIndicatorOrder(), Qt::AscendingOrder);
+    clickHeader(u"Name"_s);
+    EXPECT_EQ(names(), u"Soap Food(Bread) Drinks(Water Juice)"_s);
+    EXPECT_EQ(tree()->header()->sortIndicatorOrder(), Qt::DescendingOrder);
+    clickHeader(u"Name"_s);
+    EXPECT_EQ(names(), u"Drinks(Juice Water) Food(Bread) Soap"_s);
+    clickHeader(u"Name"_s);
+    clickHeader(u"Price"_s); // does not sort
+    EXPECT_EQ(names(), u"Soap Food(Bread) Drinks(Water Juice)"_s);
+    // A tree that is read anew stands by name again, and its head says so.
+    press(Qt::Key_Insert);
+    press(Qt::Key_Return);
+    EXPECT_EQ(names(), u"Drinks(Juice Water) Food(Bread) New Item Soap"_s);
+    EXPECT_EQ(tree()->header()->sortIndicatorSection(), columnTitled(list(), u"Name"_s));
+    EXPECT_EQ(tree()->header()->sortIndicatorOrder(), Qt::AscendingOrder);
+}
+
 TEST_F(ProductsPage, openGroupsStayOpenWhenTheTreeIsReadAnew)
 {
     openSampleTree();

@@ -158,6 +158,26 @@ TEST_F(StocksPage, anEmployeeAddedFromTheFormIsChosen)
     EXPECT_EQ(text(u"Main"_s, u"Manager"_s), u"Ann"_s);
 }
 
+TEST_F(StocksPage, aClickOnTheHeadSorts)
+{
+    openSampleList();
+    clickHeader(u"Address"_s);
+    EXPECT_EQ(names(), u"Shop Back Main"_s);
+    clickHeader(u"Address"_s);
+    EXPECT_EQ(names(), u"Main Back Shop"_s);
+    clickHeader(u"Manager"_s); // does not sort
+    EXPECT_EQ(names(), u"Main Back Shop"_s);
+    // A list that is read anew stands by name again, and its head says so.
+    press(Qt::Key_Insert);
+    write(u"Yard"_s);
+    press(Qt::Key_Return);
+    EXPECT_EQ(names(), u"Back Main Shop Yard"_s);
+    EXPECT_EQ(table()->horizontalHeader()->sortIndicatorSection(), columnTitled(list(), u"Name"_s));
+    EXPECT_EQ(table()->horizontalHeader()->sortIndicatorOrder(), Qt::AscendingOrder);
+    clickHeader(u"Name"_s);
+    EXPECT_EQ(names(), u"Yard Shop Main Back"_s);
+}
+
 TEST_F(StocksPage, theSearchLooksIntoEveryColumn)
 {
     openSampleList();
