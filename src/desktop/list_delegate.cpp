@@ -79,6 +79,9 @@ void ListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
         QStyleOptionButton box;
         box.rect = checkBoxRect(option);
         box.palette = option.palette;
+        // The style draws a box's edge darker than the window: on dark ground nobody would see an empty one.
+        if (isDark(box.palette))
+            box.palette.setColor(QPalette::Window, box.palette.color(QPalette::PlaceholderText));
         box.state =
             index.data(Qt::CheckStateRole).toInt() == Qt::Checked ? QStyle::State_On : QStyle::State_Off;
         if (index.flags() & Qt::ItemIsUserCheckable)
