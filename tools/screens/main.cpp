@@ -39,6 +39,13 @@ public:
     std::optional<QString> openPath(const zelvor::OpenPanel&) override { return std::nullopt; }
 };
 
+// The offscreen platform says of every window that it has no size hints.
+void printUnlessHint(QtMsgType, const QMessageLogContext&, const QString& message)
+{
+    if (!message.contains("propagateSizeHints"_L1))
+        std::fprintf(stderr, "%s\n", qUtf8Printable(message));
+}
+
 struct Wish {
     QString project;
     QString folder;
@@ -92,6 +99,7 @@ int main(int argc, char* argv[])
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(printUnlessHint);
     qputenv("TZ", zoneName); // the widgets' zone, and the calendar's below
     QApplication application(argc, argv);
     QApplication::setApplicationName(u"Zelvor"_s);

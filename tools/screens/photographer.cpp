@@ -46,7 +46,7 @@ constexpr const char* groupings[] = {"products", "customers", "managers"};
 // Timers of the widgets run out, layouts and repaints are done.
 void settle()
 {
-    constexpr int longestWait = 200; // milliseconds
+    constexpr int longestWait = 100; // milliseconds
     QElapsedTimer timer;
     timer.start();
     while (timer.elapsed() < longestWait)
