@@ -2154,7 +2154,7 @@ or Open Existing… for a project file that you have.</source>
     </message>
     <message>
         <source>This is not a number. Write 1234.50 or 1234,50. Escape brings the old one back.</source>
-        <translation>Это не число. Напишите 1234.50 или 1234,50. Escape вернёт прежнее.</translation>
+        <translation>Это не число. Введите 1234.50 или 1234,50. Escape вернёт прежнее.</translation>
     </message>
     <message>
         <source>This period</source>
