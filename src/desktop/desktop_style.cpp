@@ -1,5 +1,7 @@
 #include "desktop/desktop_style.h"
 
+#include "desktop/theme.h"
+
 #include <QtGui/QPainter>
 #include <QtWidgets/QAbstractScrollArea>
 #include <QtWidgets/QStyleFactory>
@@ -8,6 +10,16 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace zelvor {
+
+namespace {
+
+bool hasOutline(QStyle::PrimitiveElement element)
+{
+    return element == QStyle::PE_FrameLineEdit || element == QStyle::PE_PanelLineEdit ||
+           element == QStyle::PE_IndicatorCheckBox || element == QStyle::PE_IndicatorRadioButton;
+}
+
+} // namespace
 
 DesktopStyle::DesktopStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
 
@@ -22,6 +34,27 @@ int DesktopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
     default:
         return QProxyStyle::styleHint(hint, option, widget, returnData);
     }
+}
+
+// The underlying style makes outlines by darkening the window's colour, which nobody sees on dark ground:
+// there it is given a lighter one to darken.
+void DesktopStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                 const QWidget* widget) const
+{
+    if (!hasOutline(element) || !isDark(option->palette)) {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        return;
+    }
+    const auto draw = [&](auto outlined) {
+        outlined.palette.setColor(QPalette::Window, QColor(0xa4, 0xa6, 0xac));
+        QProxyStyle::drawPrimitive(element, &outlined, painter, widget);
+    };
+    if (const auto* const frame = qstyleoption_cast<const QStyleOptionFrame*>(option))
+        draw(*frame);
+    else if (const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option))
+        draw(*button);
+    else
+        draw(*option);
 }
 
 void DesktopStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
