@@ -97,11 +97,9 @@ void ListColumns::adopt(const std::vector<ViewColumn>& columns, const std::vecto
 void ListColumns::fit(int section, const std::vector<QModelIndex>& sample)
 {
     const ViewColumn& column = m_columns[static_cast<std::size_t>(section)];
-    // Texts are fitted once, to the first rows that there are; numbers whenever they become larger.
+    // A column becomes wider for what is read later, never narrower; texts up to a limit.
     const bool isText = column.kind == CellKind::Text;
     const auto known = m_fitted.find(column.identifier);
-    if (isText && known != m_fitted.end())
-        return;
     int width = minimumWidth(section);
     if (known != m_fitted.end())
         width = std::max(width, known->second);
@@ -125,7 +123,7 @@ int ListColumns::minimumWidth(int section) const
         return std::max(title, metrics.averageCharWidth() * narrowestName);
     switch (column.kind) {
     case CellKind::Amount:
-        return std::max(title, metrics.horizontalAdvance(u"0 000 000.00"_s) + padding);
+        return std::max(title, metrics.horizontalAdvance(u"000 000.00"_s) + padding);
     case CellKind::Date:
         return std::max(title, metrics.horizontalAdvance(u"00.00.0000 00:00"_s) + padding);
     default:

@@ -134,7 +134,7 @@ void ProductChooserPanel::arrangeColumns()
     for (const QString& identifier : {goodsLeave ? u"amount"_s : u"measurementName"_s, price}) {
         const int column = model.columnWithIdentifier(identifier);
         header.moveSection(header.visualIndex(column), place++);
-        header.resizeSection(column, numberWidth);
+        header.resizeSection(column, std::max(numberWidth, header.sectionSizeHint(column)));
         taken += header.sectionSize(column);
     }
     header.setSectionResizeMode(name, QHeaderView::Interactive);

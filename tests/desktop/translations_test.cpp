@@ -12,6 +12,7 @@
 #include <QtCore/QLocale>
 #include <QtCore/QTranslator>
 #include <QtWidgets/QHeaderView>
+#include <QtWidgets/QStyle>
 #include <QtWidgets/QTableView>
 #include <QtWidgets/QTreeView>
 
@@ -48,6 +49,29 @@ bool showsText(const QAbstractItemModel& model, const QString& text, const QMode
     }
     return false;
 }
+
+// Of every visible list of a page: the titles that are wider than their columns.
+QStringList cutTitles(const QWidget& page)
+{
+    QStringList cut;
+    for (QAbstractItemView* const list : page.findChildren<QAbstractItemView*>()) {
+        const QHeaderView* const header = headerOf(*list);
+        if (!header || !header->isVisible())
+            continue;
+        for (int column = 0; column < header->count(); ++column) {
+            const QString title = header->model()->headerData(column, Qt::Horizontal).toString();
+            const int needed = header->fontMetrics().horizontalAdvance(title) +
+                               2 * header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header);
+            if (!header->isSectionHidden(column) && header->sectionSize(column) < needed)
+                cut << title;
+        }
+    }
+    return cut;
+}
+
+constexpr DocType pages[] = {DocType::ProductCatalog,     DocType::ContragentCatalog, DocType::StockCatalog,
+                             DocType::MeasurementCatalog, DocType::ProductJournal,    DocType::BalanceSheet,
+                             DocType::PeriodSellReport,   DocType::SellProduct,       DocType::BuyProduct};
 
 } // namespace
 
@@ -145,6 +169,22 @@ TEST_F(Translations, aCatalogPageHasItsTitleAndItsColumnsInTheLanguage)
     ASSERT_NE(header, nullptr);
     EXPECT_TRUE(columnTitles(*header).contains(u"Наименование"))
         << columnTitles(*header).join(u'|').toStdString();
+}
+
+TEST_F(Translations, noColumnTitleIsCutOff)
+{
+    for (const QString& language : knownLanguages()) {
+        speak(language);
+        DesktopProgram program;
+        program.openNewProject();
+        program.window().resize(1440, 900);
+        for (const DocType type : pages) {
+            program.workspace().topMenuAction(type);
+            QApplication::processEvents();
+            EXPECT_EQ(cutTitles(*program.window().activePage()).join(u" | "_s).toStdString(), "")
+                << language.toStdString();
+        }
+    }
 }
 
 } // namespace zelvor

@@ -87,7 +87,6 @@ bool photograph(const Wish& wish)
     zelvor::DesktopSettings settings(home.filePath(u"Desktop.conf"_s));
     zelvor::AppDelegate appDelegate({clock, zelvor::Calendar(zone), dialogs, defaults});
     zelvor::DesktopApplication desktop(appDelegate, settings);
-    desktop.mainWindow.resize(1440, 900);
     const bool complete = zelvor::Photographer(desktop, wish.folder).photograph(copy);
     desktop.shell.applicationWillTerminate();
     return complete;

@@ -95,6 +95,8 @@ bool Photographer::photograph(const QString& project)
         fail(u"the project did not open"_s);
         return false;
     }
+    // The screen of the offscreen platform is smaller than a shop's.
+    m_desktop.mainWindow.resize(1440, 900);
     save(m_desktop.mainWindow, u"empty-workspace"_s);
     photographCatalogs();
     photographDocuments();
