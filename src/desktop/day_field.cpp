@@ -105,12 +105,13 @@ void DayField::setDay(const QDate& day)
     showWrong(false);
 }
 
-void DayField::commit()
+bool DayField::commit()
 {
     if (!isModified())
-        return;
+        return true;
     const QDate typed = dayFromUserText(text(), QLocale(), m_day);
     typed.isValid() ? choose(typed) : setDay(m_day);
+    return typed.isValid();
 }
 
 void DayField::choose(const QDate& day)
@@ -123,10 +124,12 @@ void DayField::choose(const QDate& day)
 
 void DayField::openCalendar()
 {
+    commit(); // it opens at what was typed
     auto* const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     auto* const calendar = new QCalendarWidget(menu);
     calendar->setObjectName(u"calendar"_s);
+    calendar->setAccessibleName(accessibleName());
     calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     calendar->setSelectedDate(m_day);
     QTextCharFormat weekend; // the platform's red is too dim on dark ground
@@ -197,7 +200,7 @@ QSize DayField::sizeHint() const
 
 void DayField::showWrong(bool wrong)
 {
-    QPalette ink = QGuiApplication::palette();
+    QPalette ink; // what it does not set follows the desktop's
     if (wrong)
         ink.setColor(QPalette::Text, textColor(redColor, ink));
     setPalette(ink);

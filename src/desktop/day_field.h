@@ -18,8 +18,8 @@ public:
     const QDate& day() const { return m_day; }
     // Shows the day; tells nobody.
     void setDay(const QDate& day);
-    // What is being typed counts from now on.
-    void commit();
+    // What is being typed counts from now on; false when it is no date, and the old one stands there again.
+    bool commit();
     void openCalendar();
 
 Q_SIGNALS:

@@ -1,5 +1,7 @@
 #include "desktop/day_field.h"
 
+#include "desktop/theme.h"
+
 #include <gtest/gtest.h>
 
 #include <QtTest/QSignalSpy>
@@ -126,6 +128,26 @@ TEST_F(DayFieldTest, theCalendarOpensByAKeyAndItsDayIsTaken)
     Q_EMIT calendar->clicked(QDate(2023, 11, 20));
     EXPECT_EQ(field.day(), QDate(2023, 11, 20));
     EXPECT_EQ(chosen.count(), 1);
+}
+
+TEST_F(DayFieldTest, theCalendarOpensAtWhatWasTyped)
+{
+    retype(field, u"12/24"_s);
+    field.openCalendar();
+    auto* const calendar = field.findChild<QCalendarWidget*>(u"calendar"_s);
+    ASSERT_NE(calendar, nullptr);
+    EXPECT_EQ(calendar->selectedDate(), QDate(2023, 12, 24));
+    EXPECT_EQ(chosen.count(), 1);
+}
+
+TEST_F(DayFieldTest, followsTheAppearanceOfTheDesktop)
+{
+    field.setDay(shown.addDays(1));
+    applyAppearance(*qApp, Appearance::Dark);
+    QApplication::processEvents();
+    EXPECT_EQ(field.palette().color(QPalette::Base), QApplication::palette().color(QPalette::Base));
+    EXPECT_EQ(field.palette().color(QPalette::Text), QApplication::palette().color(QPalette::Text));
+    applyAppearance(*qApp, Appearance::Light);
 }
 
 } // namespace zelvor
