@@ -66,6 +66,10 @@
         <translation>(Товары) </translation>
     </message>
     <message>
+        <source>(before the start)</source>
+        <translation>(раньше начала)</translation>
+    </message>
+    <message>
         <source>(not included)</source>
         <translation>(не включая)</translation>
     </message>

@@ -13,7 +13,6 @@
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QCheckBox>
-#include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
@@ -30,7 +29,7 @@ BalancePage::BalancePage(BalanceViewController& controller, QWidget* parent)
     const QPointer<BalancePage> self(this);
     controller.view.onReload([self] {
         if (self && self->isVisible())
-            self->showTitle();
+            self->showDay();
     });
 }
 
@@ -47,7 +46,7 @@ QLayout* BalancePage::makeControls()
     return bar;
 }
 
-void BalancePage::showTitle()
+void BalancePage::showDay()
 {
     const auto params = m_controller.appDelegate.params();
     const auto currency = params ? currencyFromInt(params->defaultCurrency) : std::nullopt;
@@ -55,14 +54,12 @@ void BalancePage::showTitle()
     const QString today = locale.toString(
         m_controller.appDelegate.calendar.dateTime(m_controller.appDelegate.now()), shortDateFormat(locale));
     const QString sheet = localized("Balance on") + u' ' + today;
-    const QString title = currency ? sheet + u", "_s + currencyShort(*currency) : sheet;
-    if (heading()->text() != title)
-        setHeading(title);
+    showTitle(currency ? sheet + u", "_s + currencyShort(*currency) : sheet);
 }
 
 void BalancePage::showEvent(QShowEvent* event)
 {
-    showTitle();
+    showDay();
     TablePage::showEvent(event);
 }
 

@@ -22,7 +22,7 @@ protected:
 private:
     QLayout* makeControls();
     // "Balance on 21.11.2026, EUR".
-    void showTitle();
+    void showDay();
 
     BalanceViewController& m_controller;
 };

@@ -5,6 +5,7 @@
 #include "desktop/icons.h"
 #include "desktop/measures.h"
 
+#include <QtCore/QPointer>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -32,6 +33,14 @@ FilterField::FilterField(const QString& name, const QString& title, Label& displ
     m_clear = addButton(u"clear"_s + name, u"clear"_s, localized("All again") + u": "_s + title,
                         &FilterField::clearRequested);
     caption->setBuddy(m_choose);
+    // The field itself never has the cursor: the button tells what is chosen.
+    const QPointer<QWidget> button(m_choose);
+    const auto tell = [button, &display] {
+        if (button)
+            button->setAccessibleDescription(display.text());
+    };
+    display.onChange(tell);
+    tell();
 }
 
 QRect FilterField::globalFieldRect() const

@@ -14,6 +14,7 @@
 
 #include <QtCore/QPointer>
 #include <QtGui/QAction>
+#include <QtGui/QContextMenuEvent>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QHBoxLayout>
@@ -45,7 +46,7 @@ JournalPage::JournalPage(DocumentJournalViewController& controller, QWidget* par
     });
     controller.mainView.onReload([self] {
         if (self)
-            self->showTitle();
+            self->showTitle(self->view().name());
     });
 }
 
@@ -90,19 +91,21 @@ void JournalPage::makeMenu()
     connect(m_delete, &QAction::triggered, this, [this] { askToDelete(list()->currentRow()); });
     connect(m_open, &QAction::triggered, this, [this] { m_controller.openDocument(list()->currentRow()); });
     list()->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(list(), &QWidget::customContextMenuRequested, this, &JournalPage::showMenu);
+    connect(list(), &QWidget::customContextMenuRequested, this, [this](const QPoint& place) {
+        const QModelIndex cell = list()->indexAt(place);
+        const int row = cell.isValid() ? list()->tableModel()->viewRow(cell.row()) : -1;
+        showMenu(row, list()->viewport()->mapToGlobal(place));
+    });
 }
 
-void JournalPage::showMenu(const QPoint& place)
+void JournalPage::showMenu(int row, const QPoint& place)
 {
-    const QModelIndex cell = list()->indexAt(place);
-    const int row = cell.isValid() ? list()->tableModel()->viewRow(cell.row()) : -1;
     if (row >= 0)
         list()->selectViewRow(row);
     m_controller.menuWillOpen(row);
     m_delete->setEnabled(m_controller.deleteDocumentMenuItem.enabled());
     m_open->setEnabled(row >= 0);
-    m_menu->popup(list()->viewport()->mapToGlobal(place));
+    m_menu->popup(place);
 }
 
 void JournalPage::askToDelete(int row)
@@ -125,21 +128,16 @@ void JournalPage::askToDelete(int row)
     });
 }
 
-// The cursor goes on to the document that takes the place of the deleted one.
+// The cursor goes on to the document that takes the place of the deleted one, also among the found ones.
 void JournalPage::deleteRow(int row)
 {
+    const TableViewModel& model = *list()->tableModel();
+    const int place = model.shownRow(row);
     m_controller.menuWillOpen(row);
     if (!m_controller.deleteDocumentMenuItem.userChanged())
         return;
-    const int last = m_controller.mainView.numberOfRows() - 1;
-    list()->selectViewRow(std::min(row, last));
+    list()->selectViewRow(model.viewRow(std::min(place, model.rowCount() - 1)));
     list()->setFocus(Qt::OtherFocusReason);
-}
-
-void JournalPage::showTitle()
-{
-    if (heading()->text() != view().name())
-        setHeading(view().name());
 }
 
 bool JournalPage::can(PageCommand command) const
@@ -167,6 +165,14 @@ bool JournalPage::eventFilter(QObject* watched, QEvent* event)
     if (watched == list() && event->type() == QEvent::KeyPress &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Delete) {
         askToDelete(list()->currentRow());
+        return true;
+    }
+    // The key for the menu means the row under the cursor, wherever that stands.
+    if (watched == list() && event->type() == QEvent::ContextMenu &&
+        static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard) {
+        list()->scrollTo(list()->currentIndex());
+        const QRect cell = list()->visualRect(list()->currentIndex());
+        showMenu(list()->currentRow(), list()->viewport()->mapToGlobal(cell.bottomLeft()));
         return true;
     }
     return TablePage::eventFilter(watched, event);

@@ -27,11 +27,11 @@ protected:
 private:
     QLayout* makeControls();
     void makeMenu();
-    void showMenu(const QPoint& place);
+    // Over a row of the view, -1 for none.
+    void showMenu(int row, const QPoint& place);
     // Asks, as nothing brings a deleted document back.
     void askToDelete(int row);
     void deleteRow(int row);
-    void showTitle();
 
     DocumentJournalViewController& m_controller;
     PeriodBar* m_period = nullptr;

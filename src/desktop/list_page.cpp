@@ -71,6 +71,19 @@ void TablePage::perform(PageCommand command)
         m_list->shownView().doubleAction(m_list->currentRow());
 }
 
+void TablePage::showTitle(const QString& title)
+{
+    if (heading()->text() == title)
+        return;
+    setHeading(title);
+    m_list->setAccessibleName(title);
+}
+
+void TablePage::setEmptyText(const QString& text)
+{
+    m_empty->setText(text);
+}
+
 void TablePage::showEmptyText()
 {
     m_empty->setVisible(m_list->tableModel()->rowCount() == 0 && m_search->text().trimmed().isEmpty());

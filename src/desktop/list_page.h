@@ -24,6 +24,11 @@ public:
     bool can(PageCommand command) const override;
     void perform(PageCommand command) override;
 
+protected:
+    // Names the page and its list after what they show now.
+    void showTitle(const QString& title);
+    void setEmptyText(const QString& text);
+
 private:
     void showEmptyText();
 

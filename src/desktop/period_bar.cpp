@@ -47,11 +47,7 @@ PeriodBar::PeriodBar(const Outlets& outlets, const Calendar& calendar, QWidget* 
     m_from = addDay(outlets.dateFrom, outlets.dateFromLabel, localized("From"));
     row->addSpacing(measures::rowGap);
     m_to = addDay(outlets.dateTo, outlets.dateToLabel, localized("To, this day not included"));
-    auto* const note = new QLabel(localized("(not included)"), this);
-    note->setObjectName(u"periodNote"_s);
-    note->setFont(noteFont(font()));
-    note->setForegroundRole(QPalette::PlaceholderText);
-    row->addWidget(note);
+    addNote(outlets.dateToLabel);
     row->addSpacing(measures::rowGap);
     m_current = new QPushButton(localized("This period"), this);
     m_current->setObjectName(u"currentPeriodButton"_s);
@@ -69,10 +65,31 @@ DayField* PeriodBar::addDay(DatePicker& day, Label& label, const QString& access
     field->setAccessibleName(accessibleName);
     bindDay(day, field, m_calendar);
     caption->setBuddy(field);
-    connect(field, &QLineEdit::returnPressed, this, &PeriodBar::submitted);
+    connect(field, &QLineEdit::returnPressed, this, [this, field] {
+        if (field->commit()) // nothing is computed with another date than the one that was meant
+            Q_EMIT submitted();
+    });
     layout()->addWidget(caption);
     layout()->addWidget(field);
     return field;
+}
+
+// The red of dates that stand the wrong way round is not the only sign of it.
+void PeriodBar::addNote(Label& label)
+{
+    auto* const note = new QLabel(this);
+    note->setObjectName(u"periodNote"_s);
+    note->setFont(noteFont(font()));
+    note->setForegroundRole(QPalette::PlaceholderText);
+    layout()->addWidget(note);
+    const QPointer<QLabel> shown(note);
+    const auto tell = [shown, &label] {
+        if (shown)
+            shown->setText(label.color() == redColor ? localized("(before the start)")
+                                                     : localized("(not included)"));
+    };
+    label.onChange(tell);
+    tell();
 }
 
 void PeriodBar::commit()

@@ -39,6 +39,7 @@ Q_SIGNALS:
 
 private:
     DayField* addDay(DatePicker& day, Label& label, const QString& accessibleName);
+    void addNote(Label& label);
 
     const Calendar& m_calendar;
     DayField* m_from;

@@ -25,9 +25,17 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace zelvor {
 
+namespace {
+
+QString whatToDo()
+{
+    return localized("Choose the period and press \"Refresh\".");
+}
+
+} // namespace
+
 PeriodSellPage::PeriodSellPage(PeriodSellReportViewController& controller, QWidget* parent)
-    : TablePage(controller.mainView, controller.appDelegate.calendar,
-                localized("Choose the period and press \"Refresh\"."), parent),
+    : TablePage(controller.mainView, controller.appDelegate.calendar, whatToDo(), parent),
       m_controller(controller), m_order(new SortKeeper(list()))
 {
     rows()->insertLayout(1, makePeriodAndFilters());
@@ -168,10 +176,10 @@ void PeriodSellPage::listen()
             self->showResult();
     });
     report.onReload([self] {
-        if (self)
+        if (self) {
             self->m_order->showMark(); // also where groups part the rows
-        if (self && self->heading()->text() != self->view().name())
-            self->setHeading(self->view().name());
+            self->showTitle(self->view().name());
+        }
     });
 }
 
@@ -181,17 +189,20 @@ void PeriodSellPage::run()
     m_controller.prepareReport();
 }
 
-// Before the first run there is nothing yet that could be out of date.
+// Where nothing stands, the sentence in the middle says it: "Nothing was sold" was about other choices.
 void PeriodSellPage::markOutdated()
 {
-    m_outdated->setVisible(!m_controller.mainView.rows().inOrder().empty());
+    const bool empty = m_controller.mainView.numberOfRows() == 0;
+    m_outdated->setVisible(!empty);
+    if (empty)
+        setEmptyText(whatToDo());
 }
 
 void PeriodSellPage::showResult()
 {
     m_outdated->hide();
     m_order->sortAgain();
-    setEmptyText(*list(), localized("Nothing was sold in this period."));
+    setEmptyText(localized("Nothing was sold in this period."));
 }
 
 void PeriodSellPage::takeFocus()

@@ -2,9 +2,7 @@
 
 #include "core/localized.h"
 #include "desktop/icons.h"
-#include "desktop/table_list.h"
 
-#include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 
 using namespace Qt::Literals::StringLiterals;
@@ -28,12 +26,6 @@ void chainTabs(std::initializer_list<QWidget*> widgets)
             QWidget::setTabOrder(last, widget);
         last = widget;
     }
-}
-
-void setEmptyText(TableList& list, const QString& text)
-{
-    if (auto* const label = list.viewport()->findChild<QLabel*>(u"emptyText"_s))
-        label->setText(text);
 }
 
 } // namespace zelvor

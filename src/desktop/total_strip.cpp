@@ -46,7 +46,7 @@ bool TotalStrip::isNeeded() const
 {
     const TableViewModel& model = *m_list->tableModel();
     const int last = model.rowCount() - 1;
-    if (last < m_rows || model.viewRow(last) != m_list->shownView().numberOfRows() - 1)
+    if (last < m_rows || !model.filter().isEmpty())
         return false;
     const int place = m_list->height() + (isHidden() ? 0 : height()) - m_list->horizontalHeader()->height();
     return (last + 1) * m_list->verticalHeader()->defaultSectionSize() > place;

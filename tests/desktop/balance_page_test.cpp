@@ -89,4 +89,17 @@ TEST_F(BalancePageTest, refreshReadsWhatChangedWithoutANotice)
     EXPECT_FALSE(shop.page()->can(PageCommand::Edit));
 }
 
+TEST_F(BalancePageTest, amongTheFoundLinesNoneStandsInTheStrip)
+{
+    TableList* const list = shop.page()->list();
+    const int tall = shop.window().height() - list->height() + 3 * list->rowHeight(0);
+    shop.window().setMinimumHeight(0);
+    shop.window().resize(shop.window().width(), tall);
+    QTest::qWait(1);
+    ASSERT_NE(shop.find(u"totalStrip"_s), nullptr);
+    shop.page()->perform(PageCommand::Find);
+    QTest::keyClicks(QApplication::focusWidget(), u"a"_s);
+    EXPECT_EQ(shop.find(u"totalStrip"_s), nullptr);
+}
+
 } // namespace zelvor

@@ -70,6 +70,7 @@ TEST_F(JournalPageTest, aTypedDateReadsAnewAndTheTabFollows)
     EXPECT_EQ(shop.shown(u"number"_s), QStringList());
     EXPECT_EQ(shop.heading(), u"Product Documents From: 11/14/23 To: 11/14/23"_s);
     EXPECT_EQ(shop.workspace().tabView.header.tabs().back().title, shop.heading());
+    EXPECT_EQ(shop.page()->list()->accessibleName(), shop.heading());
     EXPECT_TRUE(shop.find(u"emptyText"_s));
     shop.type(u"dateTo"_s, u"15"_s); // the month and the year stay
     EXPECT_EQ(shop.shown(u"number"_s), (QStringList{u"1"_s, u"1"_s}));
@@ -83,9 +84,11 @@ TEST_F(JournalPageTest, datesTheWrongWayRoundTurnTheirLabelsRed)
     shop.type(u"dateFrom"_s, u"11/20/2023"_s);
     EXPECT_EQ(shop.ink(u"dateFromLabel"_s), ShopDesktop::red());
     EXPECT_EQ(shop.ink(u"dateToLabel"_s), ShopDesktop::red());
+    EXPECT_EQ(shop.widget<QLabel>(u"periodNote"_s)->text(), u"(before the start)"_s); // not by colour alone
     EXPECT_EQ(shop.shown(u"number"_s), QStringList());
     shop.type(u"dateFrom"_s, u"11/14/2023"_s);
     EXPECT_EQ(shop.ink(u"dateToLabel"_s), ShopDesktop::blue());
+    EXPECT_EQ(shop.widget<QLabel>(u"periodNote"_s)->text(), u"(not included)"_s);
 }
 
 TEST_F(JournalPageTest, theButtonTakesTheRunningReportPeriod)
@@ -141,6 +144,53 @@ TEST_F(JournalPageTest, theContextMenuDeletesADraftAfterAQuestion)
     choose(menu, deleteItem(menu));
     EXPECT_FALSE(shop.isStored<ProductDocument>(draft));
     EXPECT_EQ(shop.shown(u"sum"_s), QStringList{u"600.00"_s});
+}
+
+TEST_F(JournalPageTest, theMenuKeyMeansTheRowUnderTheCursor)
+{
+    shop.sell(shop.acme, shop.tea, 2, 7, false);
+    openJournal();
+    TableList* const list = shop.page()->list();
+    for (const int row : {1, 0}) { // the draft, then the confirmed purchase
+        shop.clickCell(list, shop.cell(row, u"date"_s));
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, list->rect().center(),
+                                list->mapToGlobal(list->rect().center()));
+        QApplication::sendEvent(list, &event);
+        auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        EXPECT_EQ(list->currentRow(), row);
+        EXPECT_EQ(deleteItem(menu)->isEnabled(), row == 1);
+        menu->close();
+    }
+}
+
+TEST_F(JournalPageTest, theCursorStaysAmongTheFoundDocumentsAfterADelete)
+{
+    shop.sell(shop.zenith, shop.tea, 1, 3, false);
+    shop.sell(shop.acme, shop.tea, 1, 4);
+    shop.sell(shop.zenith, shop.tea, 1, 5);
+    openJournal();
+    shop.page()->perform(PageCommand::Find);
+    QTest::keyClicks(QApplication::focusWidget(), u"zen"_s);
+    ASSERT_EQ(shop.shown(u"contragent"_s).size(), 2);
+    shop.clickCell(shop.page()->list(), shop.cell(0, u"date"_s));
+    shop.program.dialogs.answers = {firstButton};
+    shop.pressKey(Qt::Key_Delete);
+    EXPECT_EQ(shop.shown(u"sum"_s), QStringList{u"5.00"_s});
+    EXPECT_EQ(shop.page()->list()->currentIndex().row(), 0);
+}
+
+TEST_F(JournalPageTest, anAnswerAfterTheTabIsClosedDeletesNothing)
+{
+    const qint64 draft = shop.sell(shop.acme, shop.tea, 2, 7, false);
+    openJournal();
+    shop.clickCell(shop.page()->list(), shop.cell(1, u"date"_s));
+    shop.pressKey(Qt::Key_Delete);
+    ASSERT_EQ(shop.program.dialogs.unanswered.size(), 1u);
+    shop.workspace().closeTab(*shop.workspace().tabView.body.activTab);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    shop.program.dialogs.unanswered.front()(firstButton);
+    EXPECT_TRUE(shop.isStored<ProductDocument>(draft));
 }
 
 TEST_F(JournalPageTest, theContextMenuLeavesConfirmedDocumentsAlone)

@@ -96,6 +96,7 @@ TEST_F(PeriodSellPageTest, aPeriodWithoutSalesSaysSo)
     EXPECT_EQ(shop.widget<QLabel>(u"emptyText"_s)->text(), u"Nothing was sold in this period."_s);
     shop.click(u"currentPeriodButton"_s);
     EXPECT_EQ(shop.widget<QLineEdit>(u"dateFrom"_s)->text(), u"11/1/2023"_s);
+    EXPECT_EQ(shop.widget<QLabel>(u"emptyText"_s)->text(), u"Choose the period and press \"Refresh\"."_s);
     shop.type(u"dateTo"_s, u"15"_s);
     refresh();
     ASSERT_FALSE(names().isEmpty());
@@ -123,6 +124,16 @@ TEST_F(PeriodSellPageTest, returnInADateComputesTheReport)
     QTest::keyClick(field, Qt::Key_Return);
     EXPECT_EQ(shop.heading(), u"Report by Selling For Period. From: 11/1/23 To: 11/15/23"_s);
     EXPECT_EQ(names().size(), 6);
+}
+
+TEST_F(PeriodSellPageTest, returnOnWhatIsNoDateComputesNothing)
+{
+    auto* const field = shop.widget<QLineEdit>(u"dateFrom"_s);
+    field->selectAll();
+    QTest::keyClicks(field, u"11/31/2023"_s);
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(field->text(), u"11/14/2023"_s);
+    EXPECT_EQ(names(), QStringList());
 }
 
 TEST_F(PeriodSellPageTest, theKindOfReportDecidesWhichGroupsCanBeHidden)
@@ -197,6 +208,7 @@ TEST_F(PeriodSellPageTest, aTickedGroupCarriesItsProductsAndTheDisplayCounts)
     shop.click(u"okButton"_s);
     EXPECT_EQ(shop.find(u"selectPopover"_s), nullptr);
     EXPECT_EQ(display(u"selectedProductsDisplay"_s), u"2 selected"_s);
+    EXPECT_EQ(shop.widget<QWidget>(u"chooseProducts"_s)->accessibleDescription(), u"2 selected"_s);
     refresh();
     EXPECT_EQ(names(), (QStringList{u"Drinks"_s, u"Coffee"_s, u"Tea"_s, u"TOTAL"_s}));
 
@@ -339,9 +351,12 @@ TEST_F(PeriodSellPageTest, aProductAddedMeanwhileStandsInThePopover)
 TEST_F(PeriodSellPageTest, thePopoversGoWithThePage)
 {
     EXPECT_EQ(shop.window().findChildren<SelectionPopover*>().size(), 3);
+    shop.click(u"chooseProducts"_s); // also an open one
+    ASSERT_NE(shop.find(u"popoverShield"_s), nullptr);
     shop.workspace().closeTab(*shop.workspace().tabView.body.activTab);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(shop.window().findChildren<SelectionPopover*>().size(), 0);
+    EXPECT_EQ(shop.window().findChild<QWidget*>(u"popoverShield"_s), nullptr);
 }
 
 } // namespace zelvor
