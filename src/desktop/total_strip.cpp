@@ -56,8 +56,12 @@ void TotalStrip::arrange()
 {
     const bool needed = isNeeded();
     const int count = m_list->tableModel()->rowCount();
-    for (int row = std::max(0, count - m_rows); row < count; ++row)
-        m_list->setRowHidden(row, needed);
+    const int first = needed ? count - m_rows : count;
+    // The table keeps hidden what it hid before the rows were read anew; other rows may stand there now.
+    for (int row = 0; row < count; ++row) {
+        if (m_list->isRowHidden(row) != (row >= first))
+            m_list->setRowHidden(row, row >= first);
+    }
     setFixedHeight(m_rows * m_list->verticalHeader()->defaultSectionSize());
     setVisible(needed);
     update();

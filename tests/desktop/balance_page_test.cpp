@@ -19,6 +19,15 @@ protected:
         ASSERT_NE(qobject_cast<BalancePage*>(shop.window().activePage()), nullptr);
     }
     int rowOf(const QString& name) { return static_cast<int>(shop.shown(u"name"_s).indexOf(name)); }
+    // Leaves room for three lines.
+    void makeShort()
+    {
+        const TableList* const list = shop.page()->list();
+        const int tall = shop.window().height() - list->height() + 3 * list->rowHeight(0);
+        shop.window().setMinimumHeight(0);
+        shop.window().resize(shop.window().width(), tall);
+        QTest::qWait(1);
+    }
 
     ShopDesktop shop;
 };
@@ -89,17 +98,28 @@ TEST_F(BalancePageTest, refreshReadsWhatChangedWithoutANotice)
     EXPECT_FALSE(shop.page()->can(PageCommand::Edit));
 }
 
+TEST_F(BalancePageTest, noLineIsMissingWhenTheSheetGrowsAboveTheStrip)
+{
+    makeShort();
+    ASSERT_NE(shop.find(u"totalStrip"_s), nullptr);
+    const TableList* const list = shop.page()->list();
+    for (const Contragent& customer : {shop.zenith, shop.acme}) {
+        shop.sell(customer, shop.tea, 10, 7);
+        const int count = list->tableModel()->rowCount();
+        for (int row = 0; row < count; ++row)
+            EXPECT_EQ(list->isRowHidden(row), row >= count - 2) << row;
+    }
+}
+
 TEST_F(BalancePageTest, amongTheFoundLinesNoneStandsInTheStrip)
 {
-    TableList* const list = shop.page()->list();
-    const int tall = shop.window().height() - list->height() + 3 * list->rowHeight(0);
-    shop.window().setMinimumHeight(0);
-    shop.window().resize(shop.window().width(), tall);
-    QTest::qWait(1);
+    makeShort();
     ASSERT_NE(shop.find(u"totalStrip"_s), nullptr);
     shop.page()->perform(PageCommand::Find);
     QTest::keyClicks(QApplication::focusWidget(), u"a"_s);
     EXPECT_EQ(shop.find(u"totalStrip"_s), nullptr);
+    for (int row = 0; row < shop.page()->list()->tableModel()->rowCount(); ++row)
+        EXPECT_FALSE(shop.page()->list()->isRowHidden(row)) << row;
 }
 
 } // namespace zelvor
