@@ -1,14 +1,18 @@
 // What a person waits for at the desktop: from the start of the process to the drawn main window, and from a
-// click in the menu to the drawn page, over the generated business. CPU time of the whole process, loading of
-// the libraries included; each round is a process of its own. No second program stands beside it: the aims
-// are absolute.
+// click in the menu to the drawn page, over the generated business and over a catalog of as many products.
+// CPU time of the whole process, loading of the libraries included; each round is a process of its own. No
+// second program stands beside it: the aims are absolute.
 
 #include "baseline/baseline.h"
+#include "catalogs/product.h"
 #include "core/doc_type.h"
 #include "desktop/desktop_application.h"
 #include "desktop/icons.h"
 #include "desktop/page.h"
+#include "desktop/search_line.h"
+#include "desktop/table_list.h"
 #include "desktop/theme.h"
+#include "desktop/tree_list.h"
 #include "documents/document_journal_view_controller.h"
 #include "support/bench_project.h"
 
@@ -16,6 +20,7 @@
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTimeZone>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QScrollBar>
 
 #include <sys/resource.h>
 
@@ -43,6 +48,8 @@ class Refusals final : public Dialogs {
     std::optional<QString> savePath(const SavePanel&) override { return {}; }
     std::optional<QString> openPath(const OpenPanel&) override { return {}; }
 };
+
+constexpr int scrolledPages = 50;
 
 double cpuMilliseconds()
 {
@@ -76,6 +83,28 @@ void openPages(DesktopApplication& desktop)
     }
 }
 
+// Pages down through the list, each drawn.
+void scroll(QAbstractItemView& list, const char* name)
+{
+    QScrollBar& bar = *list.verticalScrollBar();
+    const double before = cpuMilliseconds();
+    for (int page = 1; page <= scrolledPages; ++page) {
+        bar.setValue(page * (bar.maximum() / scrolledPages));
+        list.viewport()->grab();
+    }
+    std::printf("%s %.2f\n", name, (cpuMilliseconds() - before) / scrolledPages);
+}
+
+void search(DesktopApplication& desktop, const QString& text, const char* name)
+{
+    auto* const line = desktop.mainWindow.activePage()->findChild<SearchLine*>();
+    const double before = cpuMilliseconds();
+    line->setText(text);
+    draw(desktop.mainWindow);
+    std::printf("%s %.2f\n", name, cpuMilliseconds() - before);
+    line->clear();
+}
+
 // Every document of two years in one list.
 void readLongJournal(DesktopApplication& desktop)
 {
@@ -88,6 +117,48 @@ void readLongJournal(DesktopApplication& desktop)
     journal->prepareJournal();
     draw(desktop.mainWindow);
     std::printf("ProductJournalWhole %.2f\n", cpuMilliseconds() - before);
+    auto* const list = desktop.mainWindow.activePage()->findChild<TableList*>();
+    scroll(*list, "itsPage");
+    search(desktop, u"sale 77"_s, "itsSearch");
+}
+
+// A catalog as large as the documents are many: a hundred products in each group.
+void openLargeTree(DesktopApplication& desktop)
+{
+    const double before = cpuMilliseconds();
+    desktop.shell.mainWindowController.topMenuAction(DocType::ProductCatalog);
+    draw(desktop.mainWindow);
+    std::printf("ProductTree %.2f\n", cpuMilliseconds() - before);
+    auto* const tree = desktop.mainWindow.activePage()->findChild<TreeList*>();
+    const double expanding = cpuMilliseconds();
+    tree->expandAll();
+    draw(desktop.mainWindow);
+    std::printf("itsRowsOpened %.2f\n", cpuMilliseconds() - expanding);
+    scroll(*tree, "itsTreePage");
+    search(desktop, u"product 77"_s, "itsTreeSearch");
+}
+
+QString projectWithProducts(long count)
+{
+    const QString path = writableProject(u"tree%1"_s.arg(count), 0);
+    Connector connector;
+    if (!connector.open(path) || !connector.beginBulk())
+        std::exit(2);
+    std::shared_ptr<ProductGroup> group;
+    for (long i = 0; i < count; ++i) {
+        if (i % 100 == 0) {
+            group = std::make_shared<ProductGroup>();
+            group->name = u"Group %1"_s.arg(i / 100);
+            connector.insert(*group);
+        }
+        Product product;
+        product.name = u"Product %1"_s.arg(i);
+        product.parentID = group->id;
+        connector.insert(product);
+    }
+    if (!connector.endBulk())
+        std::exit(2);
+    return path;
 }
 
 int measure(int argc, char** argv)
@@ -107,8 +178,12 @@ int measure(int argc, char** argv)
         return 2;
     draw(desktop.mainWindow);
     std::printf("start %.2f\n", cpuMilliseconds());
-    openPages(desktop);
-    readLongJournal(desktop);
+    if (QByteArray(argv[1]) == "tree") {
+        openLargeTree(desktop);
+    } else {
+        openPages(desktop);
+        readLongJournal(desktop);
+    }
     appDelegate.connector.close();
     return 0;
 }
@@ -119,30 +194,37 @@ double median(std::vector<double> values)
     return values[values.size() / 2];
 }
 
+// The medians of some runs of this program, each a process of its own.
+bool runRounds(const QString& self, const QString& mode, const QString& project, long size, int rounds)
+{
+    std::vector<QString> order;
+    std::map<QString, std::vector<double>> figures;
+    for (int round = 0; round < rounds; ++round) {
+        QProcess process;
+        process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        process.start(self, {mode, project});
+        process.waitForFinished(-1);
+        if (process.exitCode() != 0)
+            return false;
+        for (const QString& line :
+             QString::fromUtf8(process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts)) {
+            const QString name = line.section(u' ', 0, 0);
+            if (!figures.contains(name))
+                order.push_back(name);
+            figures[name].push_back(line.section(u' ', 1).toDouble());
+        }
+    }
+    for (const QString& name : order)
+        std::printf("%-22s %8ld %8.1f ms\n", name.toUtf8().constData(), size, median(figures[name]));
+    return !order.empty();
+}
+
 int compare(const QString& self, int rounds)
 {
     for (const long size : benchSizes()) {
-        const QString project = generatedProject(size);
-        std::vector<QString> order;
-        std::map<QString, std::vector<double>> figures;
-        for (int round = 0; round < rounds; ++round) {
-            QProcess process;
-            process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-            process.start(self, {u"measure"_s, project});
-            process.waitForFinished(-1);
-            if (process.exitCode() != 0)
-                return 1;
-            for (const QString& line :
-                 QString::fromUtf8(process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts)) {
-                const QString name = line.section(u' ', 0, 0);
-                if (!figures.contains(name))
-                    order.push_back(name);
-                figures[name].push_back(line.section(u' ', 1).toDouble());
-            }
-        }
-        for (const QString& name : order)
-            std::printf("%-22s %8ld documents %8.1f ms\n", name.toUtf8().constData(), size,
-                        median(figures[name]));
+        if (!runRounds(self, u"measure"_s, generatedProject(size), size, rounds) ||
+            !runRounds(self, u"tree"_s, projectWithProducts(size), size, rounds))
+            return 1;
     }
     return 0;
 }
@@ -153,7 +235,7 @@ int compare(const QString& self, int rounds)
 
 int main(int argc, char** argv)
 {
-    if (argc == 3 && QByteArray(argv[1]) == "measure")
+    if (argc == 3)
         return zelvor::measure(argc, argv);
     const QCoreApplication application(argc, argv);
     return zelvor::compare(QCoreApplication::applicationFilePath(), zelvor::isSmokeRun() ? 1 : 5);
