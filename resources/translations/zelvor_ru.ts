@@ -929,6 +929,10 @@
         <translation>Правка себестоимости товара</translation>
     </message>
     <message>
+        <source>Enter takes the product, Escape empties the line.</source>
+        <translation>Enter берёт товар, Escape очищает строку.</translation>
+    </message>
+    <message>
         <source>Euro</source>
         <translation>Евро</translation>
     </message>

@@ -95,11 +95,15 @@ void ContragentChooser::selectFirstMatch()
 void ContragentChooser::choose()
 {
     const OutlineView::Node node = m_tree->currentNode();
-    if (isLeaf(node))
+    if (isLeaf(node)) {
         m_view.doubleAction(node);
-    else if (node)
-        m_tree->setExpanded(m_tree->currentIndex().siblingAtColumn(0),
-                            !m_tree->isExpanded(m_tree->currentIndex().siblingAtColumn(0)));
+        if (!m_view.selectPopover.isOpen())
+            Q_EMIT chosen();
+        return;
+    }
+    const QModelIndex group = m_tree->currentIndex().siblingAtColumn(0);
+    if (node)
+        m_tree->setExpanded(group, !m_tree->isExpanded(group));
 }
 
 bool ContragentChooser::searchKey(int key)

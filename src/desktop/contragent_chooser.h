@@ -22,6 +22,10 @@ public:
     // Opens with that text in the search line.
     void startWith(const QString& text);
 
+Q_SIGNALS:
+    // A counterparty was taken and the panel is closed.
+    void chosen();
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;

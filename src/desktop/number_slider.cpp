@@ -2,6 +2,7 @@
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
+#include <QtGui/QWheelEvent>
 
 #include <algorithm>
 #include <limits>
@@ -16,6 +17,7 @@ NumberSlider::NumberSlider(NumberField& number, qint64 maximum, const QString& a
 {
     setObjectName(number.name() + u"Slider"_s);
     setAccessibleName(accessibleName);
+    setFocusPolicy(Qt::StrongFocus); // not by the wheel
     setRange(0, static_cast<int>(std::clamp<qint64>(maximum, 0, std::numeric_limits<int>::max())));
     const QPointer<NumberSlider> self(this);
     const auto show = [self, &number] {
@@ -31,6 +33,14 @@ NumberSlider::NumberSlider(NumberField& number, qint64 maximum, const QString& a
         number.setValue(Decimal(value));
         number.userChanged();
     });
+}
+
+void NumberSlider::wheelEvent(QWheelEvent* event)
+{
+    if (hasFocus())
+        QSlider::wheelEvent(event);
+    else
+        event->ignore();
 }
 
 } // namespace zelvor

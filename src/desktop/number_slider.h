@@ -13,6 +13,10 @@ class NumberSlider : public QSlider {
 public:
     NumberSlider(NumberField& number, qint64 maximum, const QString& accessibleName,
                  QWidget* parent = nullptr);
+
+protected:
+    // A wheel that rolls over the form changes nothing in it unless the slider was chosen.
+    void wheelEvent(QWheelEvent* event) override;
 };
 
 } // namespace zelvor

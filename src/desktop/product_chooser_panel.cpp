@@ -5,35 +5,30 @@
 #include "desktop/elided_label.h"
 #include "desktop/measurement_popover.h"
 #include "desktop/measures.h"
+#include "desktop/product_chooser_tree.h"
 #include "desktop/product_group_popover.h"
 #include "desktop/product_popover.h"
 #include "desktop/search_line.h"
 #include "desktop/tool_button.h"
-#include "desktop/tree_list.h"
 #include "documents/product_document_view_controller.h"
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QVBoxLayout>
-
-#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace zelvor {
 
 ProductChooserPanel::ProductChooserPanel(ProductDocumentViewController& form, QWidget* parent)
-    : QWidget(parent), m_form(form),
-      m_tree(new TreeList(form.mainProductView().view, form.appDelegate.calendar)),
-      m_search(new SearchLine(m_tree)), m_title(new ElidedLabel)
+    : QWidget(parent), m_form(form), m_tree(new ProductChooserTree(form)), m_search(new SearchLine(m_tree)),
+      m_title(new ElidedLabel)
 {
     m_tree->setObjectName(u"mainProductView"_s);
     m_tree->setAccessibleName(localized("Products that the document can take"));
     m_tree->setDragDropMode(QAbstractItemView::DragOnly);
     m_tree->setDefaultDropAction(Qt::CopyAction);
     m_tree->setFrameShape(QFrame::StyledPanel);
-    m_tree->setIndentation(measures::groupGap);
     m_tree->rowAction = [this](const OutlineView::Node& node) {
         return chooseNode(std::dynamic_pointer_cast<ProductModel>(node));
     };
@@ -45,7 +40,6 @@ ProductChooserPanel::ProductChooserPanel(ProductDocumentViewController& form, QW
     rows->addWidget(m_tree, 1);
     makePopovers();
     connect(m_search, &QLineEdit::textChanged, m_tree, &TreeList::setFilter);
-    connect(m_tree->outlineModel(), &OutlineViewModel::reloaded, this, [this] { arrangeColumns(); });
 }
 
 QWidget* ProductChooserPanel::makeTitle()
@@ -102,44 +96,12 @@ void ProductChooserPanel::showEvent(QShowEvent* event)
 {
     m_form.mainProductView().view.setVisible(true);
     QWidget::showEvent(event);
-    arrangeColumns();
 }
 
 void ProductChooserPanel::hideEvent(QHideEvent* event)
 {
     m_form.mainProductView().view.setVisible(false);
     QWidget::hideEvent(event);
-}
-
-void ProductChooserPanel::resizeEvent(QResizeEvent* event)
-{
-    QWidget::resizeEvent(event);
-    arrangeColumns();
-}
-
-// In front the three columns that one sells and buys by, as wide as the panel together; the others to their
-// right, for those who roll there.
-void ProductChooserPanel::arrangeColumns()
-{
-    const OutlineViewModel& model = *m_tree->outlineModel();
-    QHeaderView& header = *m_tree->header();
-    const bool goodsLeave = m_form.stockFromEnabled();
-    const bool costs = !goodsLeave && m_form.document->docType() != DocType::SellIntangibles &&
-                       m_form.document->docType() != DocType::Return;
-    const QString price = costs ? u"baseCost"_s : u"priceCost"_s;
-    const int name = model.columnWithIdentifier(u"name"_s);
-    const int numberWidth = fontMetrics().horizontalAdvance(u"0 000.00"_s) + 2 * measures::rowPadding;
-    int taken = 0;
-    int place = header.visualIndex(name) + 1;
-    for (const QString& identifier : {goodsLeave ? u"amount"_s : u"measurementName"_s, price}) {
-        const int column = model.columnWithIdentifier(identifier);
-        header.moveSection(header.visualIndex(column), place++);
-        header.resizeSection(column, std::max(numberWidth, header.sectionSizeHint(column)));
-        taken += header.sectionSize(column);
-    }
-    header.setSectionResizeMode(name, QHeaderView::Interactive);
-    const int narrowest = fontMetrics().averageCharWidth() * 18;
-    header.resizeSection(name, std::max(narrowest, m_tree->viewport()->width() - taken));
 }
 
 } // namespace zelvor

@@ -9,10 +9,10 @@
 namespace zelvor {
 
 class ElidedLabel;
+class ProductChooserTree;
 class ProductDocumentViewController;
 class SearchLine;
 class ToolButton;
-class TreeList;
 
 // The product tree beside a document: what the document can take, to be dragged, or taken by a double click
 // or Enter.
@@ -22,7 +22,6 @@ class ProductChooserPanel : public QWidget {
 public:
     explicit ProductChooserPanel(ProductDocumentViewController& form, QWidget* parent = nullptr);
 
-    TreeList* tree() const { return m_tree; }
     SearchLine* searchLine() const { return m_search; }
 
 Q_SIGNALS:
@@ -31,16 +30,14 @@ Q_SIGNALS:
 protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     QWidget* makeTitle();
     void makePopovers();
-    void arrangeColumns();
     bool chooseNode(const std::shared_ptr<ProductModel>& node);
 
     ProductDocumentViewController& m_form;
-    TreeList* m_tree;
+    ProductChooserTree* m_tree;
     SearchLine* m_search;
     ElidedLabel* m_title;
     ToolButton* m_add = nullptr;

@@ -162,7 +162,6 @@ void ProductDocumentFields::addWarehouses()
         bind(outlet, box, label.text());
         describe(box, label.text());
         add(requiredLabel(label), onPaper(new PaperField(box, [box] { return box->currentText(); })));
-        connect(box, &QComboBox::activated, this, &ProductDocumentFields::inputChosen);
     };
     ProductDocumentView& view = m_form.mainView;
     if (m_form.stockFromEnabled())
@@ -310,7 +309,8 @@ bool ProductDocumentFields::eventFilter(QObject* watched, QEvent* event)
     if (watched != m_contragent || !m_contragent->isEnabled())
         return QWidget::eventFilter(watched, event);
     if (event->type() == QEvent::MouseButtonRelease) {
-        Q_EMIT contragentAsked({});
+        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
+            Q_EMIT contragentAsked({});
         return false;
     }
     if (event->type() != QEvent::KeyPress)

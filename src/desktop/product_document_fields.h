@@ -29,8 +29,6 @@ public:
 Q_SIGNALS:
     // The counterparty's chooser is asked for, with the letters that were typed on the field.
     void contragentAsked(const QString& typed);
-    // A required input was chosen.
-    void inputChosen();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

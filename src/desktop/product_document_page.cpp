@@ -181,6 +181,7 @@ void ProductDocumentPage::followForm()
     connect(m_fields, &ProductDocumentFields::contragentAsked, this, &ProductDocumentPage::askContragent);
     connect(m_products, &ProductChooserPanel::productChosen, m_sheet, &ProductRowsPanel::takeProduct);
     const QPointer<ProductDocumentPage> self(this);
+    m_controller.onEndEditing = [self] { return !self || self->finishEditing(); };
     m_controller.mainView.onReload([self] {
         if (self)
             self->showState();
@@ -234,12 +235,7 @@ void ProductDocumentPage::askContragent(const QString& typed)
         m_chooser->setAnchor([field = QPointer<QWidget>(m_fields->contragentField())] {
             return field ? QRect(field->mapToGlobal(QPoint()), field->size()) : QRect();
         });
-        const QPointer<ProductDocumentPage> self(this);
-        view.selectPopover.onChange([self, &view] {
-            if (self && !view.selectPopover.isOpen() &&
-                !self->m_controller.mainView.contragentField.text().isEmpty())
-                self->goToNextInput();
-        });
+        connect(m_chooser, &ContragentChooser::chosen, this, &ProductDocumentPage::goToNextInput);
     }
     m_controller.selectContragent();
     if (!typed.isEmpty() && view.selectPopover.isOpen())
@@ -285,8 +281,7 @@ bool ProductDocumentPage::can(PageCommand command) const
     case PageCommand::Confirm:
         return view.confirmButton.enabled();
     case PageCommand::Delete:
-        return m_sheet->table()->hasFocus() ? view.deleteSelectedRowsButton.enabled()
-                                            : view.deleteDocButton.enabled();
+        return view.deleteDocButton.enabled();
     default:
         return false;
     }
@@ -308,14 +303,11 @@ void ProductDocumentPage::perform(PageCommand command)
             view.saveButton.userChanged();
         break;
     case PageCommand::Confirm:
-        if (finishEditing() && view.confirmButton.userChanged() && m_paper)
+        if (finishEditing() && m_sheet->entry()->isDone() && view.confirmButton.userChanged() && m_paper)
             goToNextInput();
         break;
     case PageCommand::Delete:
-        if (m_sheet->table()->hasFocus())
-            m_sheet->deleteRow();
-        else
-            view.deleteDocButton.userChanged();
+        view.deleteDocButton.userChanged();
         break;
     default:
         break;

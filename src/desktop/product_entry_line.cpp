@@ -126,6 +126,18 @@ void ProductEntryLine::paintUnknown(bool unknown)
     setToolTip(unknown ? localized("No product of that name can be taken here.") : QString());
 }
 
+bool ProductEntryLine::isDone()
+{
+    if (text().trimmed().isEmpty())
+        return true;
+    setFocus(Qt::OtherFocusReason);
+    showMatches(text());
+    const QString hint =
+        m_model->rowCount() > 0 ? localized("Enter takes the product, Escape empties the line.") : toolTip();
+    QToolTip::showText(mapToGlobal(QPoint(0, 0)), hint, this);
+    return false;
+}
+
 void ProductEntryLine::moveChoice(int step)
 {
     const int row = std::clamp(m_list->currentIndex().row() + step, 0, m_model->rowCount() - 1);

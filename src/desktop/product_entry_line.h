@@ -24,6 +24,8 @@ public:
 
     // The list of matches; made when it is first shown.
     QTableView* matches() const { return m_list; }
+    // Whether nothing is typed here that was not taken. Otherwise the cursor comes here.
+    bool isDone();
 
 Q_SIGNALS:
     void productTyped(const std::shared_ptr<Product>& product);

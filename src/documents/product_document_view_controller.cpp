@@ -372,17 +372,22 @@ Decimal ProductDocumentViewController::discounted(const Decimal& price) const
     return price.times(Decimal(1).minus(share, handler), handler);
 }
 
-void ProductDocumentViewController::checkDiscount()
+bool ProductDocumentViewController::checkDiscount()
 {
     if (!isEditable() || !discountEnabled() || !isStorable(contragentDiscount.value()))
-        return;
+        return false;
+    bool changed = false;
     for (const auto& row : document->documentRows) {
         const Decimal& price = row->product->innerPriceCost;
-        if (!price.isZero())
-            row->setInnerPriceCost(discounted(price));
+        if (price.isZero())
+            continue;
+        const Decimal before = row->innerPriceCost;
+        row->setInnerPriceCost(discounted(price));
+        changed = changed || !(row->innerPriceCost == before);
     }
     mainView.reloadData();
     calculateTotals();
+    return changed;
 }
 
 // What is in the fields goes into the document; the sums stay out until it is confirmed.
@@ -537,8 +542,10 @@ void ProductDocumentViewController::updateContragents()
     document->insertContragent(contragent);
     if (discountDiffers)
         setDiscount(contragent->innerDiscount);
-    checkDiscount();
+    const bool pricesDiffer = checkDiscount();
     mainView.showContragent();
+    if (discountDiffers || pricesDiffer)
+        mainView.checkControlls(); // the file still has the old ones
 }
 
 void ProductDocumentViewController::updateStocks()

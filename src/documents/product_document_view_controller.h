@@ -51,6 +51,9 @@ public:
     ProductFinder& productFinder();
     // Takes the tab away; set by whoever shows the form.
     std::function<void()> onClose;
+    // Ends what is being typed on the screen; false when that cannot be taken over. Set by whoever shows the
+    // form.
+    std::function<bool()> onEndEditing;
 
     DocumentModel& documentModel() override { return *document; }
     QStringList missingInputs() const override { return mainView.missingInputs(); }
@@ -88,8 +91,9 @@ public:
     // The selected row; one that is stored leaves the file at once.
     bool deleteRow();
     void calculateTotals();
-    // Prices every row anew by the form's discount, but for products without a price.
-    void checkDiscount();
+    // Prices every row anew by the form's discount, but for products without a price. Whether a price became
+    // another one.
+    bool checkDiscount();
 
     bool writeDoc();
     bool deleteDoc();

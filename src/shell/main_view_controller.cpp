@@ -311,18 +311,32 @@ void MainViewController::formClosed(const BaseView& view)
     tabView.sendCloseToHeaderTab(view.index());
 }
 
-bool MainViewController::hasUnsavedChanges(int position) const
+const ProductDocumentViewController* MainViewController::formAt(int position) const
 {
     if (position < 0 || position >= static_cast<int>(m_openedControllers.size()))
-        return false;
-    const auto* form = dynamic_cast<const ProductDocumentViewController*>(
+        return nullptr;
+    return dynamic_cast<const ProductDocumentViewController*>(
         m_openedControllers[static_cast<std::size_t>(position)].get());
+}
+
+// What is still being typed is a change too.
+bool MainViewController::endEditing(int position) const
+{
+    const auto* const form = formAt(position);
+    return !form || !form->onEndEditing || form->onEndEditing();
+}
+
+bool MainViewController::hasUnsavedChanges(int position) const
+{
+    const auto* const form = formAt(position);
     return form && !form->document->confirmed && form->mainView.saveButton.enabled();
 }
 
 void MainViewController::closeTab(int position)
 {
     m_lastClosed.reset();
+    if (!endEditing(position))
+        return;
     if (!hasUnsavedChanges(position)) {
         tabView.sendCloseToHeaderTab(position);
         return;
@@ -362,6 +376,10 @@ void MainViewController::leaveUnlessDropped(std::function<void()> then, Dropped 
 {
     for (int position = 0; position < static_cast<int>(openedView.size()); ++position) {
         const auto& form = m_openedControllers[static_cast<std::size_t>(position)];
+        if (!endEditing(position)) {
+            tabView.openExistingTab(position);
+            return;
+        }
         if (!hasUnsavedChanges(position) || std::ranges::find(dropped, form) != dropped.end())
             continue;
         tabView.openExistingTab(position);

@@ -26,6 +26,7 @@ class FunctionViewController;
 class ManagerViewController;
 class MeasurementViewController;
 class ProductDocument;
+class ProductDocumentViewController;
 class ProductViewController;
 class PropertyJournalViewController;
 class StockViewController;
@@ -136,6 +137,8 @@ private:
     void openPage(std::shared_ptr<ModelViewController> controller, BaseView& view);
     void openProductDocument(std::shared_ptr<ProductDocument> document);
     void formClosed(const BaseView& view);
+    const ProductDocumentViewController* formAt(int position) const; // null for another page
+    bool endEditing(int position) const;
     void askToSave(int position, std::function<void()> goOn, std::function<void()> drop);
     void leaveUnlessDropped(std::function<void()> then, Dropped dropped);
     void notReleased();

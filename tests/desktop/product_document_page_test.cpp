@@ -4,6 +4,7 @@
 #include "catalogs/product_view_controller.h"
 #include "desktop/theme.h"
 
+#include <QtCore/QPointer>
 #include <QtGui/QGuiApplication>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
@@ -31,10 +32,24 @@ protected:
         }
         return shown.join(u' ');
     }
+    // What the tree beside the rows says of the product's stock.
+    QString onHandInTree(const QString& product)
+    {
+        const int column = tree()->outlineModel()->columnWithIdentifier(u"amount"_s);
+        return treeRow(product).siblingAtColumn(column).data().toString();
+    }
     bool isEnabled(const QString& name)
     {
         const QWidget* const widget = program.find(name);
         return widget && widget->isEnabled();
+    }
+    // By the command of the menu bar.
+    void close()
+    {
+        auto* const entry = program.window().findChild<QAction*>(u"closeTab"_s);
+        ASSERT_NE(entry, nullptr);
+        entry->trigger();
+        QCoreApplication::processEvents();
     }
     static QColor ink(const QWidget* widget, QPalette::ColorRole role = QPalette::WindowText)
     {
@@ -410,10 +425,10 @@ TEST_F(ProductDocumentPageTest, aRowTakesItsShareOfTheShipmentByATick)
     EXPECT_EQ(cell(0, u"includeShipment"_s).data(Qt::CheckStateRole).toInt(), Qt::Checked);
 }
 
-TEST_F(ProductDocumentPageTest, theDiscountPricesTheRowsAnew)
+TEST_F(ProductDocumentPageTest, theDiscountPricesTheRowsAnewOverTypedPrices)
 {
     openFilled(DocType::SellProduct);
-    typeRow(u"chai"_s, u"1"_s, u"18"_s);
+    typeRow(u"chai"_s, u"1"_s, u"25"_s);
     auto* const slider = program.find<QSlider>(u"contragentDiscountSlider"_s);
     slider->setFocus();
     for (int step = 0; step < 5; ++step)
@@ -477,9 +492,80 @@ TEST_F(ProductDocumentPageTest, escapeLeavesTheCounterpartyAsItWasAndTheClearBut
     press(Qt::Key_Escape);
     EXPECT_EQ(program.find(u"selectPopover"_s), nullptr);
     EXPECT_EQ(program.find<QLineEdit>(u"contragentField"_s)->text(), u"Acme"_s);
+    EXPECT_EQ(focusName(), u"contragentField"_s);
     program.click(u"clearContragent"_s);
     EXPECT_EQ(program.find<QLineEdit>(u"contragentField"_s)->text(), QString());
     EXPECT_FALSE(isEnabled(u"clearContragent"_s));
+}
+
+TEST_F(ProductDocumentPageTest, theRightButtonOnTheCounterpartyOpensNoChooser)
+{
+    open(DocType::SellProduct);
+    QWidget* const field = program.find(u"contragentField"_s);
+    QTest::mouseClick(field, Qt::RightButton);
+    EXPECT_EQ(program.find(u"selectPopover"_s), nullptr);
+    QTest::mouseClick(field, Qt::LeftButton);
+    EXPECT_NE(program.find(u"selectPopover"_s), nullptr);
+}
+
+TEST_F(ProductDocumentPageTest, aTabThatGoesTakesItsOpenChooserAlong)
+{
+    open(DocType::SellProduct);
+    program.click(u"selectContragent"_s);
+    ASSERT_NE(program.find(u"selectPopover"_s), nullptr);
+    const QPointer<QWidget> chooser = program.find(u"selectPopover"_s);
+    workspace().closeTab(0);
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(tabs(), 0u);
+    EXPECT_EQ(chooser, nullptr);
+    EXPECT_EQ(program.find(u"popoverShield"_s), nullptr);
+    open(DocType::SellProduct);
+    EXPECT_EQ(focusName(), u"contragentField"_s);
+}
+
+// --- two forms at once
+
+TEST_F(ProductDocumentPageTest, aSaleInAnotherTabTakesItsGoodsOutOfTheTreeAndOfTheMatches)
+{
+    openFilled(DocType::SellProduct);
+    typeRow(u"chai"_s, u"10"_s, u"18"_s);
+    EXPECT_TRUE(treeRow(u"Chang"_s).isValid());
+    openFilled(DocType::SellProduct);
+    typeRow(u"chai"_s, u"30"_s, u"18"_s);
+    typeRow(u"chang"_s, u"17"_s, u"19"_s);
+    program.click(u"confirmButton"_s);
+    ASSERT_TRUE(form()->document->confirmed);
+    workspace().tabView.openExistingTab(0);
+    EXPECT_EQ(onHandInTree(u"Chai"_s), u"9.00"_s);
+    EXPECT_FALSE(treeRow(u"Chang"_s).isValid());
+    entry()->setFocus();
+    write(u"cha"_s);
+    ASSERT_NE(matches(), nullptr);
+    EXPECT_EQ(matches()->model()->rowCount(), 1);
+    press(Qt::Key_Escape);
+    press(Qt::Key_Escape);
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_FALSE(form()->document->confirmed);
+    ASSERT_EQ(dialogs().alerts.size(), 1u);
+    EXPECT_EQ(dialogs().alerts.front().informativeText,
+              u"We have not enough 'Chai' on WH: 'Main'. Need: 10.0 Have: 9.0 Reserv: 0.0\n"_s);
+}
+
+TEST_F(ProductDocumentPageTest, aDraftThatWasConfirmedElsewhereIsRefusedAndSaysSo)
+{
+    openFilled(DocType::SellProduct);
+    typeRow(u"chai"_s, u"10"_s, u"18"_s);
+    press(Qt::Key_S, Qt::ControlModifier);
+    ProductDocumentViewController other(program.program.appDelegate,
+                                        connector().select<ProductDocument>(form()->document->id));
+    other.prepareData();
+    ASSERT_TRUE(other.confirmDoc());
+    press(Qt::Key_Return, Qt::ControlModifier);
+    ASSERT_EQ(dialogs().alerts.size(), 1u);
+    EXPECT_EQ(dialogs().alerts.front().informativeText,
+              u"The document was confirmed or deleted in the meantime.\n"_s);
+    EXPECT_EQ(onHand(chai), 29);
 }
 
 // --- saving, confirming, deleting, closing
@@ -545,7 +631,7 @@ TEST_F(ProductDocumentPageTest, aSavedDraftIsThereAgainWhenItIsReopened)
     EXPECT_TRUE(isEnabled(u"deleteDocButton"_s));
 }
 
-TEST_F(ProductDocumentPageTest, aCommentThatIsStillBeingTypedIsSaved)
+TEST_F(ProductDocumentPageTest, aNumberThatIsStillBeingTypedIsSavedUnlessItIsWrong)
 {
     openFilled(DocType::BuyProduct);
     program.find(u"shipment"_s)->setFocus();
@@ -561,16 +647,80 @@ TEST_F(ProductDocumentPageTest, aCommentThatIsStillBeingTypedIsSaved)
     EXPECT_EQ(connector().select<ProductDocument>(form()->document->id)->shipment(), 12.5);
 }
 
+TEST_F(ProductDocumentPageTest, aCommentThatIsStillBeingTypedIsSavedAndSaveStaysOffAfterIt)
+{
+    openFilled(DocType::SellProduct);
+    program.find(u"comment"_s)->setFocus();
+    write(u"call first"_s);
+    EXPECT_TRUE(isEnabled(u"saveButton"_s));
+    press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(connector().select<ProductDocument>(form()->document->id)->comment, u"call first"_s);
+    EXPECT_EQ(focusName(), u"comment"_s);
+    EXPECT_FALSE(isEnabled(u"saveButton"_s));
+    press(Qt::Key_Tab);
+    EXPECT_FALSE(isEnabled(u"saveButton"_s)) << "leaving the field is no change";
+    write(u"7"_s);
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(isEnabled(u"saveButton"_s));
+}
+
+TEST_F(ProductDocumentPageTest, aCellThatIsStillBeingTypedIsSavedUnlessItIsWrong)
+{
+    openFilled(DocType::SellProduct);
+    entry()->setFocus();
+    write(u"chai"_s);
+    press(Qt::Key_Return);
+    write(u"7"_s);
+    press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(connector().select<ProductDocument>(form()->document->id)->documentRows.front()->amount(), 7);
+    EXPECT_EQ(focusName(), u"documentRows"_s);
+    EXPECT_FALSE(isEnabled(u"saveButton"_s));
+    write(u"8x"_s);
+    press(Qt::Key_S, Qt::ControlModifier);
+    ASSERT_NE(editor(), nullptr);
+    EXPECT_EQ(editor()->text(), u"8x"_s);
+    EXPECT_EQ(connector().select<ProductDocument>(form()->document->id)->documentRows.front()->amount(), 7);
+}
+
+TEST_F(ProductDocumentPageTest, closingWithAnAmountStillBeingTypedAsksFirstAndAWrongOneKeepsTheTab)
+{
+    openFilled(DocType::SellProduct);
+    typeRow(u"chai"_s, u"4"_s, u"20"_s);
+    press(Qt::Key_S, Qt::ControlModifier);
+    const qint64 id = form()->document->id;
+    press(Qt::Key_Up);
+    write(u"6x"_s);
+    close();
+    EXPECT_EQ(tabs(), 1u);
+    EXPECT_TRUE(dialogs().questions.empty());
+    ASSERT_EQ(focusName(), u"cellEditor"_s);
+    press(Qt::Key_Backspace);
+    dialogs().answers = {firstButton}; // Save
+    close();
+    EXPECT_EQ(tabs(), 0u);
+    EXPECT_EQ(dialogs().questions.size(), 1u);
+    EXPECT_EQ(connector().select<ProductDocument>(id)->documentRows.front()->amount(), 6);
+}
+
+TEST_F(ProductDocumentPageTest, aProductThatIsTypedButNotTakenIsNotConfirmedPast)
+{
+    openFilled(DocType::SellProduct);
+    typeRow(u"chai"_s, u"4"_s, u"20"_s);
+    write(u"chang"_s);
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_FALSE(form()->document->confirmed);
+    EXPECT_EQ(focusName(), u"productEntry"_s);
+    ASSERT_NE(matches(), nullptr);
+    press(Qt::Key_Escape); // the list
+    press(Qt::Key_Escape); // the text
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_TRUE(form()->document->confirmed);
+}
+
 TEST_F(ProductDocumentPageTest, closingWithChangesAsksFirst)
 {
     openFilled(DocType::SellProduct);
     typeRow(u"chai"_s, u"4"_s, u"20"_s);
-    const auto close = [this] {
-        auto* const entry = program.window().findChild<QAction*>(u"closeTab"_s);
-        ASSERT_NE(entry, nullptr);
-        entry->trigger();
-        QCoreApplication::processEvents();
-    };
     dialogs().answers = {firstButton + 2}; // Cancel
     close();
     EXPECT_EQ(tabs(), 1u);

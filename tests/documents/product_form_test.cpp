@@ -461,6 +461,22 @@ TEST(ProductForm, aChangedCounterpartyIsReadAnew)
     EXPECT_EQ(form->document->documentRows[0]->priceCost(), 6.3);
 }
 
+TEST(ProductForm, aSavedDraftThatACounterpartysNewDiscountPricedAnewCanBeSavedAgain)
+{
+    TeaShop shop;
+    const auto form = shop.formWithTea(DocType::SellProduct, 1, 9);
+    ASSERT_TRUE(form->writeDoc());
+    const auto purchase = shop.formWithTea(DocType::BuyProduct, 1, 4);
+    ASSERT_TRUE(purchase->writeDoc());
+    shop.appDelegate.notifications.post(NotificationName::ContragentChangedNotification);
+    EXPECT_EQ(form->document->documentRows[0]->priceCost(), 7) << "a list read anew prices by it";
+    EXPECT_TRUE(form->mainView.saveButton.enabled());
+    EXPECT_FALSE(purchase->mainView.saveButton.enabled()) << "nothing changed";
+    ASSERT_TRUE(form->writeDoc());
+    shop.appDelegate.notifications.post(NotificationName::ContragentChangedNotification);
+    EXPECT_FALSE(form->mainView.saveButton.enabled());
+}
+
 TEST(ProductForm, changedWarehousesAreReadAnew)
 {
     TeaShop shop;
