@@ -19,6 +19,7 @@ namespace {
 constexpr int padding = 2 * measures::rowPadding;
 constexpr int widestText = 34;    // in letters: a longer text is cut off at first
 constexpr int narrowestName = 20; // in letters
+constexpr int denseName = 16;     // in letters
 
 int textWidth(const QModelIndex& cell, const QFont& plain)
 {
@@ -120,10 +121,11 @@ int ListColumns::minimumWidth(int section) const
     const ViewColumn& column = m_columns[static_cast<std::size_t>(section)];
     const int title = m_header.sectionSizeHint(section) + measures::rowPadding;
     if (section == m_filler)
-        return std::max(title, metrics.averageCharWidth() * narrowestName);
+        return std::max(title, metrics.averageCharWidth() * (m_dense ? denseName : narrowestName));
     switch (column.kind) {
     case CellKind::Amount:
-        return std::max(title, metrics.horizontalAdvance(u"000 000.00"_s) + padding);
+        return std::max(title,
+                        metrics.horizontalAdvance(m_dense ? u"0 000.00"_s : u"000 000.00"_s) + padding);
     case CellKind::Date:
         return std::max(title, metrics.horizontalAdvance(u"00.00.0000 00:00"_s) + padding);
     default:
@@ -156,6 +158,12 @@ void ListColumns::layOut()
     if (fillerWidth > 0)
         m_header.resizeSection(m_filler, std::max(fillerWidth, left));
     m_settingWidths = false;
+}
+
+void ListColumns::setDense()
+{
+    m_dense = true;
+    forgetMeasures();
 }
 
 void ListColumns::forgetMeasures()

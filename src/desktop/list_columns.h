@@ -30,6 +30,8 @@ public:
     void adopt(const std::vector<ViewColumn>& columns, const std::vector<QModelIndex>& sample);
     // Shares the room of the window out anew.
     void layOut();
+    // Columns of amounts and the name start narrower, for a list of many columns beside another one.
+    void setDense();
     // Another font: what was measured is measured anew.
     void forgetMeasures();
 
@@ -54,6 +56,7 @@ private:
     std::map<QString, int> m_given;  // by the user
     int m_filler = -1;               // the column that takes what is left
     Mark m_pressed;                  // when the mouse went down
+    bool m_dense = false;
     bool m_settingWidths = false;
     bool m_dragging = false; // the mouse is down on the header
 };

@@ -1,14 +1,10 @@
 #include "desktop/number_cell_delegate.h"
 
-#include "core/formats.h"
-#include "core/localized.h"
-#include "desktop/theme.h"
+#include "desktop/number_entry.h"
 #include "documents/document_view_controller.h"
 
-#include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QToolTip>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -16,9 +12,11 @@ namespace zelvor {
 
 namespace {
 
-bool endsEditing(int key)
+bool leadsOut(const QKeyEvent& press)
 {
-    switch (key) {
+    if (press.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier))
+        return false;
+    switch (press.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Tab:
@@ -31,64 +29,39 @@ bool endsEditing(int key)
     }
 }
 
-void paintWrong(QLineEdit* editor, bool wrong)
-{
-    QPalette palette = QGuiApplication::palette();
-    if (wrong)
-        palette.setColor(QPalette::Text, textColor(redColor, palette));
-    editor->setPalette(palette);
-    editor->setToolTip(wrong ? localized("This is not a number. Write 1234.50 or 1234,50.") : QString());
-}
-
 } // namespace
 
-bool NumberCellDelegate::isNumber(const QString& text)
+bool NumberCellDelegate::canStore(const QWidget* editor)
 {
-    return DocumentViewController::isStorable(amountFromUserText(text, QLocale()));
+    NumberEntry* const entry = NumberEntry::of(editor);
+    if (!entry)
+        return true;
+    const bool right =
+        !entry->isWrong() && DocumentViewController::isStorable(entry->number().value_or(Decimal()));
+    if (!right)
+        entry->complain();
+    return right;
 }
 
-QWidget* NumberCellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
+QWidget* NumberCellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                                           const QModelIndex& index) const
 {
-    auto* const editor = new QLineEdit(parent);
+    QWidget* const editor = ListDelegate::createEditor(parent, option, index);
     editor->setObjectName(u"cellEditor"_s);
-    editor->setAccessibleName(index.model()->headerData(index.column(), Qt::Horizontal).toString());
-    editor->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    editor->setFrame(false);
-    editor->setAutoFillBackground(true);
-    connect(editor, &QLineEdit::textEdited, editor,
-            [editor](const QString& text) { paintWrong(editor, !isNumber(text)); });
     return editor;
-}
-
-void NumberCellDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
-{
-    auto* const line = static_cast<QLineEdit*>(editor);
-    line->setText(index.data(Qt::EditRole).toString());
-    line->selectAll();
 }
 
 bool NumberCellDelegate::eventFilter(QObject* watched, QEvent* event)
 {
     auto* const line = qobject_cast<QLineEdit*>(watched);
-    if (line && event->type() == QEvent::FocusOut) {
-        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
-            Q_EMIT left(line);
-        return false;
-    }
-    if (!line || event->type() != QEvent::KeyPress)
+    if (!line || event->type() != QEvent::KeyPress || !leadsOut(*static_cast<QKeyEvent*>(event)))
         return ListDelegate::eventFilter(watched, event);
-    const auto* const press = static_cast<QKeyEvent*>(event);
-    const int key = press->key();
-    if (!endsEditing(key) || (press->modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)))
-        return ListDelegate::eventFilter(watched, event);
-    if (!isNumber(line->text())) {
-        paintWrong(line, true);
-        QToolTip::showText(line->mapToGlobal(QPoint(0, line->height())), line->toolTip(), line);
+    if (!canStore(line))
         return true;
-    }
-    Q_EMIT finished(line, key == Qt::Key_Enter ? Qt::Key_Return : key);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    Q_EMIT commitData(line);
+    Q_EMIT closeEditor(line, NoHint);
+    Q_EMIT finished(key);
     return true;
 }
 

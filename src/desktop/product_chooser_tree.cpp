@@ -33,6 +33,7 @@ ProductChooserTree::ProductChooserTree(ProductDocumentViewController& form, QWid
     : TreeList(form.mainProductView().view, form.appDelegate.calendar, parent), m_inFront(inFrontFor(form))
 {
     setIndentation(measures::groupGap);
+    header()->setSectionResizeMode(QHeaderView::Fixed); // the panel's width says what there is room for
     setMinimumWidth(fontMetrics().averageCharWidth() * shortestName +
                     static_cast<int>(m_inFront.size()) * widthOf(-1) + 2 * frameWidth());
     connect(outlineModel(), &OutlineViewModel::reloaded, this, [this] { arrangeColumns(); });
@@ -79,7 +80,6 @@ void ProductChooserTree::arrangeColumns()
         bar.resizeSection(column, width);
         left -= width;
     }
-    bar.setSectionResizeMode(name, QHeaderView::Interactive);
     bar.resizeSection(name, std::max(letter * shortestName, left));
 }
 

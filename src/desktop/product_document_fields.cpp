@@ -7,9 +7,11 @@
 #include "desktop/measures.h"
 #include "desktop/number_slider.h"
 #include "desktop/paper_field.h"
+#include "desktop/theme.h"
 #include "documents/product_document_view_controller.h"
 
 #include <QtCore/QPointer>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
@@ -31,19 +33,38 @@ constexpr int fieldsInARow = 3;
 constexpr int columnsOfAField = 3; // label, field, gap
 
 // Red alone would not be seen by everyone: what is missing has a star too.
-QLabel* requiredLabel(Label& outlet)
-{
-    auto* const label = new QLabel;
-    bind(outlet, label);
-    const QPointer<QLabel> shown(label);
-    const auto mark = [shown, &outlet] {
-        if (shown)
-            shown->setText(outlet.color() == redColor ? outlet.text() + u" *"_s : outlet.text());
-    };
-    outlet.onChange(mark);
-    mark();
-    return label;
-}
+class RequiredLabel final : public QLabel {
+public:
+    explicit RequiredLabel(Label& outlet) : m_outlet(outlet)
+    {
+        setObjectName(outlet.name());
+        setTextFormat(Qt::PlainText);
+        outlet.onChange([self = QPointer<RequiredLabel>(this)] {
+            if (self)
+                self->showOutlet();
+        });
+        showOutlet();
+    }
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        QLabel::changeEvent(event);
+        if (event->type() == QEvent::ApplicationPaletteChange)
+            showOutlet();
+    }
+
+private:
+    void showOutlet()
+    {
+        setText(m_outlet.color() == redColor ? m_outlet.text() + u" *"_s : m_outlet.text());
+        QPalette own; // only the ink; everything else follows the palette of the program
+        own.setColor(QPalette::WindowText, textColor(m_outlet.color(), QGuiApplication::palette()));
+        setPalette(own);
+    }
+
+    const Label& m_outlet;
+};
 
 QLabel* plainLabel(const QString& text)
 {
@@ -149,8 +170,6 @@ PaperField* ProductDocumentFields::onPaper(PaperField* field)
 void ProductDocumentFields::addDate()
 {
     auto* const edit = new QDateTimeEdit;
-    edit->setCalendarPopup(true);
-    edit->setDisplayFormat(shortDateTimeFormat(QLocale()));
     bind(m_form.mainView.date, edit, localized("Date"), m_form.appDelegate.calendar);
     add(plainLabel(localized("Date")), onPaper(new PaperField(edit, [edit] { return edit->text(); })));
 }
@@ -161,7 +180,7 @@ void ProductDocumentFields::addWarehouses()
         auto* const box = new QComboBox;
         bind(outlet, box, label.text());
         describe(box, label.text());
-        add(requiredLabel(label), onPaper(new PaperField(box, [box] { return box->currentText(); })));
+        add(new RequiredLabel(label), onPaper(new PaperField(box, [box] { return box->currentText(); })));
     };
     ProductDocumentView& view = m_form.mainView;
     if (m_form.stockFromEnabled())
@@ -174,7 +193,7 @@ void ProductDocumentFields::addContragent()
 {
     ProductDocumentView& view = m_form.mainView;
     QWidget* const field = contragentWithButtons();
-    add(requiredLabel(view.contragentLabel),
+    add(new RequiredLabel(view.contragentLabel),
         onPaper(new PaperField(field, [&view] { return view.contragentField.text(); })));
 }
 

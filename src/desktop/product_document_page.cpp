@@ -1,12 +1,12 @@
 #include "desktop/product_document_page.h"
 
 #include "catalogs/contragent_select_view.h"
-#include "core/formats.h"
 #include "core/localized.h"
 #include "desktop/binding.h"
 #include "desktop/contragent_chooser.h"
 #include "desktop/icons.h"
 #include "desktop/measures.h"
+#include "desktop/number_entry.h"
 #include "desktop/paper_field.h"
 #include "desktop/product_chooser_panel.h"
 #include "desktop/product_document_fields.h"
@@ -317,23 +317,7 @@ void ProductDocumentPage::perform(PageCommand command)
 // Takes over what is being typed. False when it is no number: the cursor stays on it.
 bool ProductDocumentPage::finishEditing()
 {
-    if (!m_sheet->table()->finishEditing())
-        return false;
-    const QPointer<QLineEdit> line = qobject_cast<QLineEdit*>(focusWidget());
-    if (!line || !line->isModified() || line->isReadOnly())
-        return true;
-    for (const Outlet* const number : {static_cast<const Outlet*>(&m_controller.shipment),
-                                       static_cast<const Outlet*>(&m_controller.deferment),
-                                       static_cast<const Outlet*>(&m_controller.contragentDiscount)}) {
-        const bool filled = !line->text().trimmed().isEmpty();
-        if (line->objectName() == number->name() && filled &&
-            amountFromUserText(line->text(), QLocale()).isNaN())
-            return false;
-    }
-    line->clearFocus();
-    if (line)
-        line->setFocus(Qt::OtherFocusReason);
-    return true;
+    return m_sheet->table()->finishEditing() && endEditing(*this);
 }
 
 void ProductDocumentPage::changeEvent(QEvent* event)

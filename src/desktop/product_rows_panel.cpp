@@ -71,6 +71,8 @@ void ProductRowsPanel::connectRows()
 
 void ProductRowsPanel::takeProduct(const std::shared_ptr<Product>& product)
 {
+    if (!m_table->finishEditing())
+        return;
     const int row = m_form.addProduct(product);
     if (row >= 0)
         m_table->editCell(row, u"amount"_s);
@@ -159,7 +161,7 @@ void ProductRowsPanel::dragLeaveEvent(QDragLeaveEvent* event)
 void ProductRowsPanel::dropEvent(QDropEvent* event)
 {
     setReceiving(false);
-    if (!m_form.mainView.acceptDrop(event->mimeData()->text()))
+    if (!m_table->finishEditing() || !m_form.mainView.acceptDrop(event->mimeData()->text()))
         return;
     event->setDropAction(Qt::CopyAction);
     event->accept();

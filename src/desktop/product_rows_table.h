@@ -14,8 +14,6 @@ class ProductRowsTable : public TableList {
 public:
     ProductRowsTable(TableView& view, const Calendar& calendar, QWidget* parent = nullptr);
 
-    // Puts the cursor into a cell of that view row; with the editor open.
-    void editCell(int viewRow, const QString& identifier);
     // Stores what is being typed in a cell. False when that is no number: then the cursor stays there.
     bool finishEditing();
     // As high as the header and all rows: there is no empty ground below the last one.
@@ -30,20 +28,11 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void editCurrent();
     QLineEdit* openEditor() const; // null for none
-    void takeNumber(QLineEdit* editor);
     void goOn(int key);
-    void fitNumbers();
-    bool isEditable(int column) const;
-
-    std::vector<QString> m_fittedColumns;
-    bool m_fittedWithRows = false;
-    int m_editedRow = -1;   // of the view
-    QString m_editedColumn; // the model is read anew behind every number
 };
 
 } // namespace zelvor

@@ -131,6 +131,12 @@ void TableList::runAction()
         m_model->view().doubleAction(row);
 }
 
+void TableList::setDense()
+{
+    m_columns->setDense();
+    adoptColumns();
+}
+
 void TableList::adoptColumns()
 {
     std::vector<QModelIndex> sample;

@@ -48,6 +48,9 @@ protected:
     void commitData(QWidget* editor) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 
+    // Columns start narrower, for a list of many columns beside another one.
+    void setDense();
+
 private:
     void runAction();
     void adoptColumns();

@@ -11,6 +11,7 @@
 #include <QtWidgets/QDateTimeEdit>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QSlider>
 #include <QtWidgets/QToolButton>
 
@@ -102,6 +103,14 @@ TEST_F(ProductDocumentPageTest, missingInputsAreRedAndMarkedUntilTheyAreFilled)
     EXPECT_EQ(label(u"contragentBalance"_s), u"-1\u202f250.00"_s);
     EXPECT_EQ(ink(program.find(u"contragentBalance"_s)), red());
     EXPECT_EQ(program.find<QLineEdit>(u"deferment"_s)->text(), u"14"_s);
+}
+
+TEST_F(ProductDocumentPageTest, theMarkOfAMissingInputStaysWhenTheColoursChange)
+{
+    open(DocType::SellProduct);
+    QEvent changed(QEvent::ApplicationPaletteChange);
+    QCoreApplication::sendEvent(program.find(u"contragentLabel"_s), &changed);
+    EXPECT_EQ(label(u"contragentLabel"_s), u"Counterparty *"_s);
 }
 
 TEST_F(ProductDocumentPageTest, theCursorStartsInTheFirstMissingInput)
@@ -234,7 +243,8 @@ TEST_F(ProductDocumentPageTest, aWrongNumberStaysInItsCellAndStoresNothing)
     write(u"12x"_s);
     ASSERT_NE(editor(), nullptr);
     EXPECT_EQ(ink(editor(), QPalette::Text), red());
-    EXPECT_EQ(editor()->toolTip(), u"This is not a number. Write 1234.50 or 1234,50."_s);
+    EXPECT_EQ(editor()->toolTip(),
+              u"This is not a number. Write 1234.50 or 1234,50. Escape brings the old one back."_s);
     press(Qt::Key_Return);
     ASSERT_NE(editor(), nullptr);
     EXPECT_EQ(editor()->text(), u"12x"_s);
@@ -345,6 +355,51 @@ TEST_F(ProductDocumentPageTest, aProductIsAddedToTheCatalogFromAPurchase)
     EXPECT_EQ(text(0, u"name"_s), u"Chamomile"_s);
     openFilled(DocType::SellProduct);
     EXPECT_FALSE(isEnabled(u"addProductButton"_s));
+}
+
+TEST_F(ProductDocumentPageTest, theTreeShowsNameStockAndPriceWithoutRollingAndMoreWhereThereIsRoom)
+{
+    openFilled(DocType::SellProduct);
+    const auto shown = [this] {
+        QStringList names;
+        const QHeaderView& header = *tree()->header();
+        for (int place = 0; place < header.count(); ++place) {
+            const int column = header.logicalIndex(place);
+            if (!header.isSectionHidden(column))
+                names << tree()->outlineModel()->columns()[static_cast<std::size_t>(column)].identifier;
+        }
+        return names;
+    };
+    for (const QSize& size : {QSize(1024, 640), program.window().size(), QSize(1440, 900)}) {
+        program.window().resize(size);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(shown().mid(0, 3), (QStringList{u"name"_s, u"amount"_s, u"priceCost"_s}));
+        EXPECT_EQ(tree()->horizontalScrollBar()->maximum(), 0) << size.width();
+    }
+    const qsizetype before = shown().size();
+    program.window().resize(2600, 900);
+    QCoreApplication::processEvents();
+    EXPECT_GT(shown().size(), before);
+    EXPECT_EQ(tree()->horizontalScrollBar()->maximum(), 0);
+    openFilled(DocType::BuyProduct);
+    EXPECT_EQ(shown().mid(0, 3), (QStringList{u"name"_s, u"measurementName"_s, u"baseCost"_s}));
+}
+
+TEST_F(ProductDocumentPageTest, aWrongNumberHoldsTheNextProductBack)
+{
+    openFilled(DocType::SellProduct);
+    typeRow(u"chai"_s, u"2"_s, u"18"_s);
+    press(Qt::Key_Up);
+    write(u"3"_s);
+    write(u"x"_s);
+    program.doubleClickCell(tree(), treeRow(u"Chai"_s));
+    EXPECT_EQ(text(0, u"amount"_s), u"2.00"_s);
+    EXPECT_EQ(focusName(), u"cellEditor"_s);
+    EXPECT_FALSE(drop(treeRow(u"Chang"_s), table()->viewport()));
+    EXPECT_EQ(form()->mainView.numberOfRows(), 1);
+    press(Qt::Key_Escape);
+    program.doubleClickCell(tree(), treeRow(u"Chai"_s));
+    EXPECT_EQ(text(0, u"amount"_s), u"3.00"_s);
 }
 
 // --- rows that go
@@ -545,6 +600,8 @@ TEST_F(ProductDocumentPageTest, aSaleInAnotherTabTakesItsGoodsOutOfTheTreeAndOfT
     EXPECT_EQ(matches()->model()->rowCount(), 1);
     press(Qt::Key_Escape);
     press(Qt::Key_Escape);
+    form()->mainView.date.setMoment(program.program.clock.now() - 1); // behind the other sale
+    ASSERT_TRUE(form()->mainView.date.userChanged());
     press(Qt::Key_Return, Qt::ControlModifier);
     EXPECT_FALSE(form()->document->confirmed);
     ASSERT_EQ(dialogs().alerts.size(), 1u);
@@ -675,7 +732,8 @@ TEST_F(ProductDocumentPageTest, aCellThatIsStillBeingTypedIsSavedUnlessItIsWrong
     EXPECT_EQ(connector().select<ProductDocument>(form()->document->id)->documentRows.front()->amount(), 7);
     EXPECT_EQ(focusName(), u"documentRows"_s);
     EXPECT_FALSE(isEnabled(u"saveButton"_s));
-    write(u"8x"_s);
+    write(u"8"_s);
+    write(u"x"_s);
     press(Qt::Key_S, Qt::ControlModifier);
     ASSERT_NE(editor(), nullptr);
     EXPECT_EQ(editor()->text(), u"8x"_s);
@@ -689,7 +747,8 @@ TEST_F(ProductDocumentPageTest, closingWithAnAmountStillBeingTypedAsksFirstAndAW
     press(Qt::Key_S, Qt::ControlModifier);
     const qint64 id = form()->document->id;
     press(Qt::Key_Up);
-    write(u"6x"_s);
+    write(u"6"_s);
+    write(u"x"_s);
     close();
     EXPECT_EQ(tabs(), 1u);
     EXPECT_TRUE(dialogs().questions.empty());
@@ -700,6 +759,18 @@ TEST_F(ProductDocumentPageTest, closingWithAnAmountStillBeingTypedAsksFirstAndAW
     EXPECT_EQ(tabs(), 0u);
     EXPECT_EQ(dialogs().questions.size(), 1u);
     EXPECT_EQ(connector().select<ProductDocument>(id)->documentRows.front()->amount(), 6);
+}
+
+TEST_F(ProductDocumentPageTest, aDateThatIsStillBeingTypedIsSaved)
+{
+    openFilled(DocType::SellProduct);
+    auto* const date = program.find<QDateTimeEdit>(u"date"_s);
+    date->setFocus();
+    date->setSelectedSection(QDateTimeEdit::DaySection);
+    write(u"5"_s);
+    press(Qt::Key_S, Qt::ControlModifier);
+    const qint64 stored = connector().select<ProductDocument>(form()->document->id)->date;
+    EXPECT_EQ(QDateTime::fromSecsSinceEpoch(stored, Qt::UTC).date().day(), 5);
 }
 
 TEST_F(ProductDocumentPageTest, aProductThatIsTypedButNotTakenIsNotConfirmedPast)
