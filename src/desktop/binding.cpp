@@ -25,6 +25,7 @@
 #include <QtWidgets/QSlider>
 
 #include <functional>
+#include <memory>
 #include <utility>
 
 namespace zelvor {
@@ -120,6 +121,23 @@ QWidget& formOf(QWidget* widget)
     return *form;
 }
 
+// Whether a widget is being shown what its outlet holds: what it tells of then is no change of the user. An
+// assistive tool sets a text as a program does, so the signals for typing alone are not enough to listen to.
+class Showing {
+public:
+    template <class Show>
+    void run(Show show)
+    {
+        const bool before = std::exchange(*m_on, true);
+        show();
+        *m_on = before;
+    }
+    bool isOn() const { return *m_on; }
+
+private:
+    std::shared_ptr<bool> m_on = std::make_shared<bool>(false);
+};
+
 NumberEntry::Number numberOf(const NumberField& outlet)
 {
     return outlet.isEmpty() ? NumberEntry::Number() : outlet.value();
@@ -129,15 +147,18 @@ NumberEntry::Number numberOf(const NumberField& outlet)
 
 void bind(TextField& outlet, QLineEdit* widget, const QString& accessibleName)
 {
-    follow(outlet, widget, accessibleName, [&outlet, widget] {
+    Showing showing;
+    follow(outlet, widget, accessibleName, [&outlet, widget, showing]() mutable {
         if (widget->text() == outlet.text())
             return;
         const int place = widget->cursorPosition();
-        widget->setText(outlet.text());
+        showing.run([&] { widget->setText(outlet.text()); });
         if (widget->hasFocus())
             widget->setCursorPosition(place);
     });
-    QObject::connect(widget, &QLineEdit::textEdited, widget, [&outlet](const QString& text) {
+    QObject::connect(widget, &QLineEdit::textChanged, widget, [&outlet, showing](const QString& text) {
+        if (showing.isOn())
+            return;
         outlet.setText(text);
         outlet.userChanged();
     });
@@ -146,12 +167,13 @@ void bind(TextField& outlet, QLineEdit* widget, const QString& accessibleName)
 void bind(TextField& outlet, QPlainTextEdit* widget, const QString& accessibleName)
 {
     widget->setTabChangesFocus(true);
-    follow(outlet, widget, accessibleName, [&outlet, widget] {
+    Showing showing;
+    follow(outlet, widget, accessibleName, [&outlet, widget, showing]() mutable {
         if (widget->toPlainText() != outlet.text())
-            widget->setPlainText(outlet.text());
+            showing.run([&] { widget->setPlainText(outlet.text()); });
     });
-    QObject::connect(widget, &QPlainTextEdit::textChanged, widget, [&outlet, widget] {
-        if (outlet.text() == widget->toPlainText())
+    QObject::connect(widget, &QPlainTextEdit::textChanged, widget, [&outlet, widget, showing] {
+        if (showing.isOn() || outlet.text() == widget->toPlainText())
             return;
         outlet.setText(widget->toPlainText());
         outlet.userChanged();
@@ -250,6 +272,13 @@ void bind(DatePicker& outlet, QDateTimeEdit* widget, const QString& accessibleNa
     widget->setCalendarPopup(true);
     widget->setKeyboardTracking(false); // half a date is none
     ignoreWheel(follow(outlet, widget, accessibleName, show), widget);
+    // What an assistive tool sets is whole, and nobody leaves the field behind it.
+    if (auto* const line = widget->findChild<QLineEdit*>()) {
+        QObject::connect(line, &QLineEdit::textChanged, widget, [widget, line] {
+            if (!line->isModified() && !widget->hasFocus())
+                widget->interpretText();
+        });
+    }
     QObject::connect(widget, &QDateTimeEdit::dateTimeChanged, widget,
                      [&outlet, &calendar, show](const QDateTime& local) {
                          outlet.setMoment(calendar.moment(local.date(), local.time()));

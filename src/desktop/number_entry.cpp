@@ -54,7 +54,10 @@ NumberEntry::NumberEntry(QLineEdit* edit, int decimals) : QObject(edit), m_edit(
 {
     edit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     edit->installEventFilter(this);
-    connect(edit, &QLineEdit::textEdited, this, [this](const QString& text) { typed(text); });
+    connect(edit, &QLineEdit::textChanged, this, [this](const QString& text) {
+        if (!m_showing)
+            typed(text);
+    });
     connect(edit, &QLineEdit::editingFinished, this, [this] {
         if (!m_wrong)
             finish();
@@ -81,8 +84,10 @@ void NumberEntry::show(const Number& shown)
     m_before = shown;
     setWrong(false);
     const QString text = shown ? editedNumber(*shown, QLocale(), m_decimals) : QString();
+    m_showing = true;
     if (m_edit->text() != text)
         m_edit->setText(text);
+    m_showing = false;
 }
 
 void NumberEntry::typed(const QString& text)
@@ -95,6 +100,9 @@ void NumberEntry::typed(const QString& text)
         QToolTip::hideText();
     if (onTyped)
         onTyped(number());
+    // Not typed but set as a whole, by an assistive tool: nobody leaves the field behind it.
+    if (!m_edit->isModified() && !m_wrong)
+        finish();
 }
 
 bool NumberEntry::finish()

@@ -61,6 +61,7 @@ private:
     Number m_before;       // as last shown
     bool m_typing = false; // changed by the user since then
     bool m_wrong = false;
+    bool m_showing = false; // the field gets its text from here
 };
 
 // Ends what is being typed anywhere in the form, as if its field were left. False when a field that the user
