@@ -46,7 +46,16 @@ QString startFolder()
 QWidget* WidgetDialogs::parent() const
 {
     QWidget* const active = QApplication::activeWindow();
-    return active ? active : parentWindow;
+    return active && active->isVisible() ? active : parentWindow.data();
+}
+
+// A question stays behind the call that asks it. A dialog that is active now, the preferences or the question
+// before, is often one that leads to it and closes; what hangs on it would go with it.
+QWidget* WidgetDialogs::parentOfQuestion() const
+{
+    QWidget* const active = parent();
+    const bool goes = qobject_cast<QDialog*>(active) && parentWindow && parentWindow->isVisible();
+    return goes ? parentWindow.data() : active;
 }
 
 void WidgetDialogs::showAlert(const Alert& alert)
@@ -58,7 +67,7 @@ void WidgetDialogs::showAlert(const Alert& alert)
 
 void WidgetDialogs::ask(const Alert& alert, std::function<void(int)> answer)
 {
-    auto* const box = new QMessageBox(parent());
+    auto* const box = new QMessageBox(parentOfQuestion());
     box->setAttribute(Qt::WA_DeleteOnClose);
     const std::vector<QAbstractButton*> buttons = fill(*box, alert);
     box->setWindowModality(Qt::WindowModal);

@@ -2,9 +2,10 @@
 
 #include "core/dialogs.h"
 
-#include <functional>
+#include <QtCore/QPointer>
+#include <QtWidgets/QWidget>
 
-class QWidget;
+#include <functional>
 
 namespace zelvor {
 
@@ -17,11 +18,12 @@ public:
     std::optional<QString> savePath(const SavePanel& panel) override;
     std::optional<QString> openPath(const OpenPanel& panel) override;
 
-    // The window that dialogs belong to when none is active.
-    QWidget* parentWindow = nullptr;
+    // The main window: what is asked hangs on it when no other window is active.
+    QPointer<QWidget> parentWindow;
 
 private:
     QWidget* parent() const;
+    QWidget* parentOfQuestion() const;
 };
 
 } // namespace zelvor

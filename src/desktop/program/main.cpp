@@ -51,6 +51,7 @@ int run(QApplication& application, zelvor::DesktopSettings& settings)
     zelvor::AppDelegate appDelegate(
         {clock, zelvor::Calendar(QTimeZone::systemTimeZone()), dialogs, defaults});
     zelvor::DesktopApplication desktop(appDelegate, settings);
+    dialogs.parentWindow = &desktop.mainWindow;
 
     const zelvor::TerminationSignals signals;
     // Whoever ends a program this way does not wait for answers; what is stored is whole in any case.
