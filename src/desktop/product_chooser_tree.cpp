@@ -14,7 +14,7 @@ namespace zelvor {
 
 namespace {
 
-constexpr int readableName = 18; // letters that the name keeps when other columns come
+constexpr int readableName = 30; // letters that the name keeps when other columns come
 constexpr int shortestName = 10; // letters that it keeps in the narrowest panel
 
 // What is left of the stock where goods leave, else what is counted; and the price by which a row is made.
