@@ -10,8 +10,9 @@
 
 namespace zelvor {
 
-// Finds the products of a tree by what is typed of their names, fast enough for every key in a catalog of a
-// hundred thousand. It follows the tree: what that holds back, and what is hidden, is not found.
+// Finds the products of a tree by what is typed of their names. The names are folded and sorted once, so that
+// a key costs one pass over them and no query. It follows the tree: what that holds back, and what is hidden,
+// is not found.
 class ProductFinder {
 public:
     explicit ProductFinder(ProductView& products);
