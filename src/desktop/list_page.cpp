@@ -13,15 +13,17 @@ namespace zelvor {
 namespace {
 
 // Lies over the list's ground, where its rows would be.
-QLabel* emptyLabel(QAbstractScrollArea* list, const QString& text)
+QLabel* groundLabel(QAbstractScrollArea* list, const QString& name, const QString& text)
 {
     auto* const label = new QLabel(text, list->viewport());
-    label->setObjectName(u"emptyText"_s);
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignCenter);
     label->setWordWrap(true);
     label->setForegroundRole(QPalette::PlaceholderText);
-    auto* const layout = new QVBoxLayout(list->viewport());
-    layout->addWidget(label);
+    if (!list->viewport()->layout())
+        new QVBoxLayout(list->viewport());
+    list->viewport()->layout()->addWidget(label);
     return label;
 }
 
@@ -30,18 +32,27 @@ bool canSearch(PageCommand command)
     return command == PageCommand::Find || command == PageCommand::Refresh || command == PageCommand::Edit;
 }
 
-template <class List>
-void startSearch(SearchLine* line, List*)
+void startSearch(SearchLine* line)
 {
     line->setFocus(Qt::ShortcutFocusReason);
     line->selectAll();
+}
+
+// The page's own sentence while there is nothing at all, another one while nothing is found.
+void showGroundText(QLabel* empty, QLabel* notFound, const SearchLine& search, int rows)
+{
+    const QString words = search.text().simplified();
+    notFound->setText(localized("Nothing here holds '%1'. Escape shows everything again.").arg(words));
+    notFound->setVisible(rows == 0 && !words.isEmpty());
+    empty->setVisible(rows == 0 && words.isEmpty());
 }
 
 } // namespace
 
 TablePage::TablePage(TableView& view, const Calendar& calendar, const QString& emptyText, QWidget* parent)
     : Page(view, parent), m_list(new TableList(view, calendar)), m_search(new SearchLine(m_list)),
-      m_empty(emptyLabel(m_list, emptyText))
+      m_empty(groundLabel(m_list, u"emptyText"_s, emptyText)),
+      m_notFound(groundLabel(m_list, u"notFoundText"_s, {}))
 {
     m_list->setAccessibleName(view.name());
     tools()->addWidget(m_search);
@@ -64,7 +75,7 @@ bool TablePage::can(PageCommand command) const
 void TablePage::perform(PageCommand command)
 {
     if (command == PageCommand::Find)
-        startSearch(m_search, m_list);
+        startSearch(m_search);
     else if (command == PageCommand::Refresh)
         refresh();
     else if (command == PageCommand::Edit && m_list->currentRow() >= 0)
@@ -86,12 +97,13 @@ void TablePage::setEmptyText(const QString& text)
 
 void TablePage::showEmptyText()
 {
-    m_empty->setVisible(m_list->tableModel()->rowCount() == 0 && m_search->text().trimmed().isEmpty());
+    showGroundText(m_empty, m_notFound, *m_search, m_list->tableModel()->rowCount());
 }
 
 TreePage::TreePage(OutlineView& view, const Calendar& calendar, const QString& emptyText, QWidget* parent)
     : Page(view, parent), m_list(new TreeList(view, calendar)), m_search(new SearchLine(m_list)),
-      m_empty(emptyLabel(m_list, emptyText))
+      m_empty(groundLabel(m_list, u"emptyText"_s, emptyText)),
+      m_notFound(groundLabel(m_list, u"notFoundText"_s, {}))
 {
     m_list->setAccessibleName(view.name());
     tools()->addWidget(m_search);
@@ -114,7 +126,7 @@ bool TreePage::can(PageCommand command) const
 void TreePage::perform(PageCommand command)
 {
     if (command == PageCommand::Find)
-        startSearch(m_search, m_list);
+        startSearch(m_search);
     else if (command == PageCommand::Refresh)
         refresh();
     else if (command == PageCommand::Edit && m_list->currentNode())
@@ -123,7 +135,7 @@ void TreePage::perform(PageCommand command)
 
 void TreePage::showEmptyText()
 {
-    m_empty->setVisible(m_list->outlineModel()->rowCount() == 0 && m_search->text().trimmed().isEmpty());
+    showGroundText(m_empty, m_notFound, *m_search, m_list->outlineModel()->rowCount());
 }
 
 } // namespace zelvor

@@ -35,6 +35,7 @@ private:
     TableList* m_list;
     SearchLine* m_search;
     QLabel* m_empty;
+    QLabel* m_notFound;
 };
 
 // The same for a tree.
@@ -58,6 +59,7 @@ private:
     TreeList* m_list;
     SearchLine* m_search;
     QLabel* m_empty;
+    QLabel* m_notFound;
 };
 
 } // namespace zelvor

@@ -3,6 +3,7 @@
 #include "core/localized.h"
 #include "desktop/binding.h"
 #include "desktop/measures.h"
+#include "desktop/number_entry.h"
 #include "desktop/theme.h"
 
 #include <QtGui/QKeyEvent>
@@ -13,6 +14,8 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
 
 #include <algorithm>
@@ -25,6 +28,33 @@ namespace {
 
 constexpr int arrow = 10;
 constexpr int radius = 6;
+constexpr int pointedAt = 320; // of a long row, its beginning is pointed at
+
+// As large as the fields in it; scrolls them only where the window is too small.
+class FieldScroll final : public QScrollArea {
+public:
+    explicit FieldScroll(QWidget* fields)
+    {
+        setWidget(fields);
+        setWidgetResizable(true);
+        setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        viewport()->setAutoFillBackground(false);
+        fields->setAutoFillBackground(false);
+        // Wherever the focus comes from, its field is seen.
+        connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+            if (now && widget()->isAncestorOf(now))
+                ensureWidgetVisible(now);
+        });
+    }
+    QSize sizeHint() const override { return widget()->sizeHint(); }
+    QSize minimumSizeHint() const override
+    {
+        const QSize fields = widget()->minimumSizeHint();
+        return {fields.width(), std::min(fields.height(), 3 * fontMetrics().height())};
+    }
+};
 
 } // namespace
 
@@ -40,7 +70,10 @@ PopoverPanel::PopoverPanel(Popover& outlet, QWidget* host)
     m_fields->setHorizontalSpacing(measures::rowGap);
     m_fields->setVerticalSpacing(measures::rowGap);
     m_fields->setColumnStretch(1, 1);
-    m_rows->addLayout(m_fields);
+    m_fields->setContentsMargins(0, 0, 0, 0);
+    auto* const fields = new QWidget;
+    fields->setLayout(m_fields);
+    m_rows->addWidget(new FieldScroll(fields), 1);
     auto* const cancelButton = new QPushButton(localized("Cancel"));
     cancelButton->setObjectName(u"cancelButton"_s);
     cancelButton->setAutoDefault(false);
@@ -54,6 +87,8 @@ PopoverPanel::PopoverPanel(Popover& outlet, QWidget* host)
         if (self)
             self->m_outlet.isOpen() ? self->openPanel() : self->closePanel();
     });
+    connect(host, &QObject::destroyed, this, [this] { delete this; });
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { keepFocus(now); });
 }
 
 PopoverPanel::~PopoverPanel()
@@ -96,6 +131,7 @@ void PopoverPanel::setError(Label& error)
 {
     auto* const label = new QLabel(this);
     label->setMinimumHeight(label->fontMetrics().height());
+    label->setWordWrap(true);
     error.setColor(redColor);
     bind(error, label);
     m_rows->insertWidget(m_rows->count() - 1, label);
@@ -113,13 +149,15 @@ QPushButton* PopoverPanel::addOk(Button& okButton, const QString& text)
 
 void PopoverPanel::openPanel()
 {
-    if (isVisible())
+    if (m_open)
         return;
+    if (m_host->window() != parentWidget()) // the page has come into another window since
+        setParent(m_host->window());
+    m_open = true;
     m_focusBefore = QApplication::focusWidget();
     if (!m_shield) {
         m_shield = new QWidget(window());
         m_shield->setObjectName(u"popoverShield"_s);
-        m_shield->installEventFilter(this);
         window()->installEventFilter(this);
     }
     m_shield->setGeometry(window()->rect());
@@ -128,21 +166,45 @@ void PopoverPanel::openPanel()
     place();
     show();
     raise();
-    QWidget* const first = m_first ? m_first.data() : m_ok;
-    if (!first)
-        return;
+    QWidget* const first = firstField();
     first->setFocus(Qt::PopupFocusReason);
     if (auto* const line = qobject_cast<QLineEdit*>(first))
         line->selectAll();
 }
 
+QWidget* PopoverPanel::firstField() const
+{
+    if (m_first && m_first->isEnabled())
+        return m_first;
+    return m_ok && m_ok->isEnabled() ? m_ok : findChild<QPushButton*>(u"cancelButton"_s);
+}
+
 void PopoverPanel::closePanel()
 {
+    if (!m_open)
+        return;
+    m_open = false;
+    dropTyping(*this);
     hide();
     if (m_shield)
         m_shield->hide();
-    if (m_focusBefore)
-        m_focusBefore->setFocus(Qt::PopupFocusReason);
+    QWidget* const next = m_focusBefore && m_focusBefore->isVisible() ? m_focusBefore.data() : m_host;
+    next->setFocus(Qt::PopupFocusReason);
+}
+
+// Whether no other form was opened from this one. What was raised last is the last child.
+bool PopoverPanel::isInFront() const
+{
+    const auto panels = window()->findChildren<PopoverPanel*>(QString(), Qt::FindDirectChildrenOnly);
+    const auto front =
+        std::find_if(panels.rbegin(), panels.rend(), [](const PopoverPanel* panel) { return panel->m_open; });
+    return front != panels.rend() && *front == this;
+}
+
+void PopoverPanel::keepFocus(QWidget* now)
+{
+    if (m_open && now && now->window() == window() && !isAncestorOf(now) && isInFront())
+        firstField()->setFocus(Qt::PopupFocusReason);
 }
 
 // Beside the anchor where there is room: below it, else above it, and never outside the window.
@@ -155,7 +217,7 @@ void PopoverPanel::place()
     QRect anchor = m_anchor ? m_anchor() : QRect(m_host->mapToGlobal(QPoint()), m_host->size());
     anchor.moveTopLeft(area->mapFromGlobal(anchor.topLeft()));
     const int middle =
-        std::clamp(anchor.left() + std::min(anchor.width(), 320) / 2, room.left(), room.right());
+        std::clamp(anchor.left() + std::min(anchor.width(), pointedAt) / 2, room.left(), room.right());
     const bool below = anchor.bottom() + height() <= room.bottom() ||
                        room.bottom() - anchor.bottom() >= anchor.top() - room.top();
     const int top = below ? anchor.bottom() : anchor.top() - height();
@@ -178,6 +240,9 @@ bool PopoverPanel::event(QEvent* event)
 {
     if (event->type() == QEvent::ShortcutOverride)
         event->accept();
+    // An error of two lines, or a field that shows now, needs its room.
+    if (event->type() == QEvent::LayoutRequest && m_open && sizeHint() != size())
+        place();
     return QFrame::event(event);
 }
 
@@ -187,12 +252,19 @@ void PopoverPanel::keyPressEvent(QKeyEvent* event)
         cancel();
         return;
     }
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        if (m_ok && m_ok->isEnabled())
-            m_ok->click();
-        return;
-    }
-    QFrame::keyPressEvent(event);
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        pressReturn();
+    event->accept(); // the page behind hears of no key
+}
+
+// A button that has the focus is the one that is meant.
+void PopoverPanel::pressReturn()
+{
+    auto* const button = qobject_cast<QAbstractButton*>(focusWidget());
+    if (qobject_cast<QPushButton*>(button) || qobject_cast<QToolButton*>(button))
+        button->click();
+    else if (m_ok && m_ok->isEnabled())
+        m_ok->click();
 }
 
 void PopoverPanel::paintEvent(QPaintEvent*)
@@ -224,7 +296,7 @@ void PopoverPanel::paintEvent(QPaintEvent*)
 
 bool PopoverPanel::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Resize && watched == window() && isVisible()) {
+    if (event->type() == QEvent::Resize && watched == window() && m_open) {
         m_shield->setGeometry(window()->rect());
         place();
     }

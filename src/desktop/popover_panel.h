@@ -16,8 +16,9 @@ class QVBoxLayout;
 namespace zelvor {
 
 // A form that opens beside what it edits and points at it, inside the window, so that it always stays on the
-// screen. While it is open the page behind it waits: clicks go nowhere, Tab stays inside. Return presses OK,
-// Escape cancels. Opens and closes with its outlet.
+// screen; its fields scroll where the window is too small for them. While it is open the page behind it
+// waits: clicks go nowhere, Tab stays inside. Return presses OK, Escape cancels. Opens and closes with its
+// outlet, and goes with its host.
 class PopoverPanel : public QFrame {
     Q_OBJECT
 
@@ -56,6 +57,11 @@ protected:
 private:
     void place();
     void cancel();
+    void pressReturn();
+    bool isInFront() const;
+    // The page behind gets no focus while the form is open.
+    void keepFocus(QWidget* now);
+    QWidget* firstField() const;
 
     Popover& m_outlet;
     QWidget* m_host;
@@ -69,6 +75,7 @@ private:
     QBoxLayout* m_buttons;
     QPushButton* m_ok = nullptr;
     QPoint m_tip; // of the arrow, in own coordinates
+    bool m_open = false;
 };
 
 } // namespace zelvor

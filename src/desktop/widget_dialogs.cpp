@@ -8,6 +8,7 @@
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QFileDialog>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 
@@ -26,6 +27,9 @@ std::vector<QAbstractButton*> fill(QMessageBox& box, const Alert& alert)
     box.setTextFormat(Qt::PlainText);
     box.setText(alert.messageText);
     box.setInformativeText(alert.informativeText);
+    // The box's own text format is for the first text only.
+    if (auto* const informative = box.findChild<QLabel*>(u"qt_msgbox_informativelabel"_s))
+        informative->setTextFormat(Qt::PlainText);
     std::vector<QAbstractButton*> buttons;
     for (const QString& title : alert.buttons)
         buttons.push_back(box.addButton(QString(title).replace(u'&', u"&&"_s), QMessageBox::ActionRole));
