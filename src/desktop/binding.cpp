@@ -54,7 +54,7 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::ApplicationPaletteChange)
+        if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange)
             m_show();
         // A wheel that rolls over a form changes nothing in it unless the field was chosen.
         if (event->type() == QEvent::Wheel && m_ignoresWheel && !m_widget->hasFocus()) {
@@ -97,20 +97,26 @@ void ignoreWheel(Tie* tie, QWidget* widget)
 }
 
 // The colour of the text alone; everything else goes on following the palette of the program.
-void paintInk(QWidget* widget, const Color& color)
-{
-    QPalette own;
-    if (!(color == blackColor)) {
+class Ink {
+public:
+    void paint(QWidget* widget, const Color& color)
+    {
+        const bool coloured = !(color == blackColor);
         const QColor ink = textColor(color, QGuiApplication::palette());
-        own.setColor(QPalette::WindowText, ink);
-        own.setColor(QPalette::Text, ink);
-    }
-    const QPalette now = widget->palette();
-    if (now.color(QPalette::WindowText) != own.color(QPalette::WindowText) ||
-        now.isBrushSet(QPalette::Active, QPalette::WindowText) !=
-            own.isBrushSet(QPalette::Active, QPalette::WindowText))
+        if (m_coloured == coloured && (!coloured || widget->palette().color(QPalette::WindowText) == ink))
+            return;
+        m_coloured = coloured;
+        QPalette own;
+        if (coloured) {
+            own.setColor(QPalette::WindowText, ink);
+            own.setColor(QPalette::Text, ink);
+        }
         widget->setPalette(own);
-}
+    }
+
+private:
+    bool m_coloured = false;
+};
 
 // What is stored together with the widget: the popover, the page or the window that it stands in.
 QWidget& formOf(QWidget* widget)
@@ -183,9 +189,9 @@ void bind(TextField& outlet, QPlainTextEdit* widget, const QString& accessibleNa
 void bind(Label& outlet, QLabel* widget)
 {
     widget->setTextFormat(Qt::PlainText);
-    follow(outlet, widget, {}, [&outlet, widget] {
+    follow(outlet, widget, {}, [&outlet, widget, ink = Ink()]() mutable {
         widget->setText(outlet.text());
-        paintInk(widget, outlet.color());
+        ink.paint(widget, outlet.color());
     });
 }
 
@@ -206,10 +212,10 @@ void bind(NumberField& outlet, QLabel* widget, int decimals)
 {
     widget->setTextFormat(Qt::PlainText);
     widget->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    follow(outlet, widget, {}, [&outlet, widget, decimals] {
+    follow(outlet, widget, {}, [&outlet, widget, decimals, ink = Ink()]() mutable {
         widget->setText(decimals == 2 ? screenAmount(outlet.value(), QLocale())
                                       : editedNumber(outlet.value(), QLocale(), decimals));
-        paintInk(widget, outlet.color());
+        ink.paint(widget, outlet.color());
     });
 }
 

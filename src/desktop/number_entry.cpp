@@ -82,7 +82,8 @@ void NumberEntry::show(const Number& shown)
         return;
     m_typing = false;
     m_before = shown;
-    setWrong(false);
+    m_wrong = false;
+    showWrong();
     const QString text = shown ? editedNumber(*shown, QLocale(), m_decimals) : QString();
     m_showing = true;
     if (m_edit->text() != text)
@@ -93,13 +94,14 @@ void NumberEntry::show(const Number& shown)
 void NumberEntry::typed(const QString& text)
 {
     m_typing = true;
-    setWrong(isWrongNumber(parsed(text)));
+    m_wrong = isWrongNumber(parsed(text));
+    if (onTyped)
+        onTyped(number());
+    showWrong();
     if (m_wrong && !isUnfinished(text))
         showTip();
     else
         QToolTip::hideText();
-    if (onTyped)
-        onTyped(number());
     // Not typed but set as a whole, by an assistive tool: nobody leaves the field behind it.
     if (!m_edit->isModified() && !m_wrong)
         finish();
@@ -149,24 +151,27 @@ void NumberEntry::complain()
     showTip();
 }
 
-void NumberEntry::setWrong(bool wrong)
+void NumberEntry::showWrong()
 {
-    if (m_wrong == wrong)
-        return;
-    m_wrong = wrong;
-    m_edit->setToolTip(wrong ? wrongNumberText() : QString());
-    m_edit->setAccessibleDescription(wrong ? wrongNumberText() : QString());
+    if (m_wrong != m_painted) {
+        if (m_wrong)
+            m_ownTip = m_edit->toolTip();
+        m_edit->setToolTip(m_wrong ? wrongNumberText() : m_ownTip);
+        m_edit->setAccessibleDescription(m_wrong ? wrongNumberText() : QString());
+    }
     paint();
 }
 
 void NumberEntry::paint()
 {
-    QPalette palette = m_edit->palette();
+    const QColor ink = textColor(redColor, QApplication::palette());
+    if (m_painted == m_wrong && (!m_wrong || m_edit->palette().color(QPalette::Text) == ink))
+        return;
+    m_painted = m_wrong;
     QPalette own; // only what is set here is kept from the palette of the moment
     if (m_wrong)
-        own.setColor(QPalette::Text, textColor(redColor, QApplication::palette()));
-    if (own.color(QPalette::Text) != palette.color(QPalette::Text))
-        m_edit->setPalette(own);
+        own.setColor(QPalette::Text, ink);
+    m_edit->setPalette(own);
 }
 
 void NumberEntry::showTip() const
@@ -197,7 +202,7 @@ bool NumberEntry::keyPressed(int key)
 
 bool NumberEntry::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::ApplicationPaletteChange)
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange)
         paint();
     if (event->type() == QEvent::ShortcutOverride && m_wrong &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {

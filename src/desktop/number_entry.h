@@ -51,7 +51,7 @@ protected:
 
 private:
     void typed(const QString& text);
-    void setWrong(bool wrong);
+    void showWrong();
     void paint();
     void showTip() const;
     bool keyPressed(int key);
@@ -62,6 +62,8 @@ private:
     bool m_typing = false; // changed by the user since then
     bool m_wrong = false;
     bool m_showing = false; // the field gets its text from here
+    bool m_painted = false; // red
+    QString m_ownTip;       // the tool tip while nothing is wrong
 };
 
 // Ends what is being typed anywhere in the form, as if its field were left. False when a field that the user

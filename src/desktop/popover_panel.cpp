@@ -30,6 +30,12 @@ constexpr int arrow = 10;
 constexpr int radius = 6;
 constexpr int pointedAt = 320; // of a long row, its beginning is pointed at
 
+QRect roomIn(const QWidget& window)
+{
+    return window.rect().adjusted(measures::labelGap, measures::labelGap, -measures::labelGap,
+                                  -measures::labelGap);
+}
+
 // As large as the fields in it; scrolls them only where the window is too small.
 class FieldScroll final : public QScrollArea {
 public:
@@ -207,13 +213,18 @@ void PopoverPanel::keepFocus(QWidget* now)
         firstField()->setFocus(Qt::PopupFocusReason);
 }
 
+// No larger than the window.
+QSize PopoverPanel::fittingSize() const
+{
+    return sizeHint().boundedTo(roomIn(*window()).size());
+}
+
 // Beside the anchor where there is room: below it, else above it, and never outside the window.
 void PopoverPanel::place()
 {
-    adjustSize();
     QWidget* const area = window();
-    const QRect room = area->rect().adjusted(4, 4, -4, -4);
-    resize(std::min(width(), room.width()), std::min(height(), room.height()));
+    const QRect room = roomIn(*area);
+    resize(fittingSize());
     QRect anchor = m_anchor ? m_anchor() : QRect(m_host->mapToGlobal(QPoint()), m_host->size());
     anchor.moveTopLeft(area->mapFromGlobal(anchor.topLeft()));
     const int middle =
@@ -241,7 +252,7 @@ bool PopoverPanel::event(QEvent* event)
     if (event->type() == QEvent::ShortcutOverride)
         event->accept();
     // An error of two lines, or a field that shows now, needs its room.
-    if (event->type() == QEvent::LayoutRequest && m_open && sizeHint() != size())
+    if (event->type() == QEvent::LayoutRequest && m_open && fittingSize() != size())
         place();
     return QFrame::event(event);
 }

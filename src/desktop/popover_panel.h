@@ -56,6 +56,7 @@ protected:
 
 private:
     void place();
+    QSize fittingSize() const;
     void cancel();
     void pressReturn();
     bool isInFront() const;

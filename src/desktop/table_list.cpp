@@ -223,7 +223,7 @@ void TableList::changeEvent(QEvent* event)
         m_columns->forgetMeasures();
         adoptColumns();
     }
-    if (event->type() == QEvent::ApplicationPaletteChange)
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange)
         paintGround();
 }
 

@@ -24,7 +24,7 @@ QPalette lightPalette()
     palette.setColor(QPalette::Base, Qt::white);
     palette.setColor(QPalette::AlternateBase, QColor(0xf7, 0xf7, 0xf5));
     palette.setColor(QPalette::Text, QColor(0x1c, 0x1c, 0x1c));
-    palette.setColor(QPalette::PlaceholderText, QColor(0x6b, 0x6b, 0x6b));
+    palette.setColor(QPalette::PlaceholderText, QColor(0x66, 0x66, 0x66));
     palette.setColor(QPalette::Button, QColor(0xec, 0xec, 0xea));
     palette.setColor(QPalette::ButtonText, QColor(0x1c, 0x1c, 0x1c));
     palette.setColor(QPalette::ToolTipBase, QColor(0xff, 0xff, 0xf0));
@@ -46,7 +46,7 @@ QPalette darkPalette()
     palette.setColor(QPalette::Base, QColor(0x1c, 0x1d, 0x1f));
     palette.setColor(QPalette::AlternateBase, QColor(0x22, 0x23, 0x26));
     palette.setColor(QPalette::Text, QColor(0xe6, 0xe6, 0xe6));
-    palette.setColor(QPalette::PlaceholderText, QColor(0x9a, 0x9a, 0x9a));
+    palette.setColor(QPalette::PlaceholderText, QColor(0xa8, 0xa8, 0xa8));
     palette.setColor(QPalette::Button, QColor(0x33, 0x34, 0x38));
     palette.setColor(QPalette::ButtonText, QColor(0xe6, 0xe6, 0xe6));
     palette.setColor(QPalette::BrightText, QColor(0xff, 0x8a, 0x80));
@@ -67,12 +67,13 @@ struct Partner {
     QColor darkInk;  // as drawn on dark ground
 };
 
-// The platform's red is too bright for small text on white, so a deeper one stands for it.
+// The platform's red and the reports' orange are too bright for small text on light grounds, so deeper ones
+// stand for them.
 const Partner textPartners[] = {
     {inOrderColor, QColor(0x1f, 0x36, 0x9b), QColor(0x9d, 0xb2, 0xff)},
     {redColor, QColor(0xc4, 0x12, 0x12), QColor(0xff, 0x8a, 0x80)},
     {catalogTitleColor, QColor(0x32, 0x65, 0x48), QColor(0x8f, 0xcf, 0xa9)},
-    {reportTitleColor, QColor(0xd5, 0x3e, 0x04), QColor(0xff, 0xa0, 0x73)},
+    {reportTitleColor, QColor(0xc0, 0x38, 0x04), QColor(0xff, 0xa0, 0x73)},
 };
 
 const Partner groundPartners[] = {

@@ -246,7 +246,7 @@ void TreeList::changeEvent(QEvent* event)
         m_columns->forgetMeasures();
         adoptColumns();
     }
-    if (event->type() == QEvent::ApplicationPaletteChange)
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange)
         paintGround();
 }
 
