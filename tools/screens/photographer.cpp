@@ -222,6 +222,11 @@ void Photographer::openStored(DocType type, bool confirmed, const QString& name)
     if (found.empty())
         return fail(u"there is no document for "_s + name);
     m_desktop.shell.mainWindowController.openDocWithID(found.front()->id, u"Product"_s);
+    settle();
+    if (Page* const page = m_desktop.mainWindow.activePage(); page && !confirmed) {
+        if (auto* const products = page->findChild<QTreeView*>())
+            products->expandAll();
+    }
     save(m_desktop.mainWindow, name);
 }
 
