@@ -2157,10 +2157,6 @@ or Open Existing… for a project file that you have.</source>
         <translation>Это не дата.</translation>
     </message>
     <message>
-        <source>This is not a number. Write 1234.50 or 1234,50.</source>
-        <translation>Это не число. Введите 1234.50 или 1234,50.</translation>
-    </message>
-    <message>
         <source>This is not a number. Write 1234.50 or 1234,50. Escape brings the old one back.</source>
         <translation>Это не число. Введите 1234.50 или 1234,50. Escape вернёт прежнее.</translation>
     </message>
