@@ -1389,6 +1389,10 @@ or Open Existing… for a project file that you have.</source>
         <translation>Пока нет</translation>
     </message>
     <message>
+        <source>Nothing here holds '%1'. Escape shows everything again.</source>
+        <translation>Здесь нет ничего со словами «%1». Escape снова покажет всё.</translation>
+    </message>
+    <message>
         <source>Nothing of that name.</source>
         <translation>Ничего с таким названием.</translation>
     </message>

@@ -3,6 +3,7 @@
 #include "core/doc_type.h"
 #include "desktop/selection_popover.h"
 #include "desktop/shop_desktop.h"
+#include "desktop/theme.h"
 #include "reports/period_sell_report_view_controller.h"
 
 #include <QtWidgets/QCheckBox>
@@ -346,6 +347,20 @@ TEST_F(PeriodSellPageTest, aProductAddedMeanwhileStandsInThePopover)
     shop.program.appDelegate.notifications.post(NotificationName::ProductChangedNotification);
     shop.click(u"chooseProducts"_s);
     EXPECT_TRUE(isTicked(u"Mug & Co"_s));
+}
+
+TEST_F(PeriodSellPageTest, followsTheAppearanceWhileItIsOpen)
+{
+    const QColor light = shop.ink(u"dateFromLabel"_s);
+    applyAppearance(*qApp, Appearance::Dark);
+    QApplication::processEvents();
+    EXPECT_EQ(shop.page()->list()->palette().color(QPalette::Base),
+              groundColor(reportGroundColor, QApplication::palette()));
+    EXPECT_EQ(shop.ink(u"dateFromLabel"_s), ShopDesktop::blue());
+    EXPECT_NE(ShopDesktop::blue(), light);
+    applyAppearance(*qApp, Appearance::Light);
+    QApplication::processEvents();
+    EXPECT_EQ(shop.ink(u"dateFromLabel"_s), light);
 }
 
 TEST_F(PeriodSellPageTest, thePopoversGoWithThePage)
