@@ -32,7 +32,6 @@ namespace zelvor {
 namespace {
 
 constexpr QSize firstSize(1440, 900);
-constexpr QSize leastSize(1000, 640); // narrower, the fields of a document would stand in each other's way
 constexpr int widestMenu = 300;
 constexpr int narrowestPage = 320;
 
@@ -65,7 +64,6 @@ MainWindow::MainWindow(ApplicationShell& shell, DesktopSettings& settings)
     m_commands = new Commands(*this, shell, settings);
     listen();
     makeSharedPopovers(m_workspace, this);
-    holdLeastSize();
     restorePlace(*this, settings, placeKey(), firstSize);
 }
 
@@ -151,17 +149,9 @@ void MainWindow::showOrHide()
     showTitle();
     restoreState();
     show();
-    holdLeastSize(); // its frame is known now
     if (!isMaximized() && !isFullScreen())
-        moveOntoScreen(*this);
+        moveOntoScreen(*this); // its frame is known now
     focusPage();
-}
-
-// A small screen holds the window whole all the same.
-void MainWindow::holdLeastSize()
-{
-    const QSize frame = frameGeometry().size() - size();
-    setMinimumSize(leastSize.boundedTo(screen()->availableSize() - frame));
 }
 
 void MainWindow::showTitle()

@@ -49,7 +49,6 @@ private:
     void layOut();
     void listen();
     void showOrHide();
-    void holdLeastSize();
     void showTitle();
     void showPages();
     void focusPage();
