@@ -99,6 +99,7 @@ PopoverPanel::PopoverPanel(Popover& outlet, QWidget* host)
 
 PopoverPanel::~PopoverPanel()
 {
+    disconnect(qApp, nullptr, this, nullptr); // the focus still moves while the fields go
     delete m_shield.data();
 }
 

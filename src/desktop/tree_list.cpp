@@ -138,9 +138,10 @@ void TreeList::sampleRows(const QModelIndex& parent, std::vector<QModelIndex>& s
 {
     const int rows = m_model->rowCount(parent);
     for (int row = 0; row < rows && sample.size() < sampledRows; ++row) {
-        sample.push_back(m_model->index(row, 0, parent));
-        if (isExpanded(sample.back()))
-            sampleRows(sample.back(), sample);
+        const QModelIndex index = m_model->index(row, 0, parent); // the sample moves as it grows
+        sample.push_back(index);
+        if (isExpanded(index))
+            sampleRows(index, sample);
     }
 }
 
