@@ -9,10 +9,15 @@
 
 namespace zelvor {
 
-// What a report hands over to be printed: the cells of its view and the marker of each row.
+class JsonWriter;
+
+// What a report hands over to be printed: the cells of its view and the marker of each row. The last two add
+// members to a row's object and to the whole answer, in JSON only.
 struct ReportTable {
     const TableView& view;
     std::function<QString(int row)> kind;
+    std::function<void(int row, JsonWriter& json)> moreOfRow = {};
+    std::function<void(JsonWriter& json)> moreOfAnswer = {};
 };
 
 // One report of the command line. `run` computes it and hands its table to `print`, whose answer (an exit

@@ -14,6 +14,8 @@ void writeRow(const ReportTable& table, const std::vector<ViewColumn>& columns, 
     json.beginObject().member(u"kind"_s, table.kind(row));
     for (const ViewColumn& column : columns)
         json.member(column.identifier, table.view.value(row, column.identifier));
+    if (table.moreOfRow)
+        table.moreOfRow(row, json);
     json.endObject();
 }
 
@@ -33,7 +35,10 @@ bool printJson(const ReportTable& table, const ReportSink& sink)
         if (json.size() > pieceSize && !sink(json.take()))
             return false;
     }
-    json.endArray().endObject();
+    json.endArray();
+    if (table.moreOfAnswer)
+        table.moreOfAnswer(json);
+    json.endObject();
     return sink(json.take() + '\n');
 }
 

@@ -164,6 +164,12 @@ private:
     bool m_on = false;
 };
 
+// A colour that the user may choose; it is the outlet's own colour.
+class ColorWell : public Outlet {
+public:
+    using Outlet::Outlet;
+};
+
 class Progress : public Outlet {
 public:
     using Outlet::Outlet;

@@ -10,9 +10,8 @@ namespace zelvor {
 using namespace Qt::Literals::StringLiterals;
 
 PeriodSellReportView::PeriodSellReportView()
-    : TableView(localized("Report by Selling For Period."), reportTitleColor)
+    : ReportView(localized("Report by Selling For Period."))
 {
-    setGroundColor(reportGroundColor);
     contragentsGroupCheck.setEnabled(false);
     managersGroupCheck.setEnabled(false);
     reportTypeSelect.onUserChange = [this] { reportTypeChanged(); };

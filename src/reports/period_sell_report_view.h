@@ -1,15 +1,15 @@
 #pragma once
 
 #include "core/outlets.h"
-#include "core/view.h"
 #include "reports/period_sell_report_rows.h"
+#include "reports/report_view.h"
 
 #include <vector>
 
 namespace zelvor {
 
 // The table of the period sell report, and the check boxes that collapse it.
-class PeriodSellReportView final : public TableView {
+class PeriodSellReportView final : public ReportView {
 public:
     PeriodSellReportView();
 
@@ -33,7 +33,6 @@ public:
     QString reportBy() const;
     QString groupedBy() const;
 
-    bool canExportToExcel() const override { return true; }
     std::vector<ViewColumn> columns() const override;
     int numberOfRows() const override { return static_cast<int>(m_reportRows.size()); }
     QVariant value(int row, const QString& identifier) const override;

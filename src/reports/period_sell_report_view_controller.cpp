@@ -60,6 +60,7 @@ QString PeriodSellReportViewController::getNameForTabView() const
 void PeriodSellReportViewController::updateReport()
 {
     progress.start();
+    mainView.setPeriod(dateFrom.moment(), dateTo.moment());
     mainView.setRows(prepareReportData());
     mainView.setName(getNameForTabView());
     progress.stop();

@@ -24,6 +24,17 @@ public:
     virtual void updateCurrencies(const Params&) {}
 };
 
+// What the program asks of the maker's server. Every exchange runs by itself on the event loop, and a failed
+// one is silent; without services the calls do nothing. What comes of an exchange arrives as a notification.
+class OnlineServices {
+public:
+    virtual ~OnlineServices() = default;
+    // Fetches the rates against the settings' default currency: CurrencyUpdatedNotification.
+    virtual void updateCurrencies(const Params&) {}
+    // Asks for the newest version: HasNewVersionNotification when there is a newer one.
+    virtual void checkUpdate() {}
+};
+
 // The application object: made in main (or in a test), passed by reference to everything that needs the
 // project, the notifications, the moment, the zone or the user's answers. Owns the one connector.
 class AppDelegate {
@@ -50,6 +61,9 @@ public:
     // Null stands for no window.
     void setWorkspace(Workspace* workspace) { m_workspace = workspace; }
     Workspace& workspace() { return m_workspace ? *m_workspace : m_noWorkspace; }
+    // Null stands for no network.
+    void setOnline(OnlineServices* online) { m_online = online; }
+    OnlineServices& online() { return m_online ? *m_online : m_noOnline; }
 
     // The settings row, or none in a file without one. Never kept by a caller.
     std::shared_ptr<Params> params() { return connector.select<Params>(1); }
@@ -59,6 +73,8 @@ private:
     std::unique_ptr<Connector> m_connector;
     Workspace* m_workspace = nullptr;
     Workspace m_noWorkspace;
+    OnlineServices* m_online = nullptr;
+    OnlineServices m_noOnline;
 };
 
 } // namespace zelvor

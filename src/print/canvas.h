@@ -1,0 +1,61 @@
+#pragma once
+
+#include "core/colors.h"
+
+#include <QtCore/QPointF>
+#include <QtCore/QRectF>
+#include <QtCore/QSizeF>
+#include <QtCore/QString>
+#include <QtGui/QFont>
+#include <QtGui/QImage>
+
+#include <vector>
+
+class QPainter;
+
+namespace zelvor {
+
+// The drawing layer of the print forms: a sheet with its origin at the lower left, y growing upward, units
+// of 1/72 inch, drawn on any QPainter. What lies outside the slice that is being drawn is left out.
+//
+// A point of text is the lower left corner of its box, whose size textSize() tells.
+class Canvas {
+public:
+    // The painter's own origin is the upper left corner of `slice`, a part of the sheet; one unit of the
+    // painter is one point.
+    Canvas(QPainter& painter, const QRectF& slice);
+
+    const QRectF& slice() const { return m_slice; }
+    // Whether anything between the two heights can be seen.
+    bool shows(double bottom, double top) const;
+    void fill(const QRectF& rect, const Color& color);
+    void text(const QPointF& point, const QString& text, const QFont& font, const Color& color);
+    void image(const QRectF& rect, const QImage& image);
+
+    // Pieces of straight line, gathered and stroked at once.
+    struct Path {
+        double lineWidth = 1;
+        std::vector<double> dashes = {}; // lengths on and off, points; none for a solid line
+        struct Line {
+            QPointF from;
+            QPointF to;
+        };
+        std::vector<Line> lines = {};
+        void add(QPointF from, QPointF to) { lines.push_back({from, to}); }
+    };
+    void stroke(const Path& path, const Color& color);
+
+private:
+    QPointF onPainter(const QPointF& point) const;
+
+    QPainter& m_painter;
+    QRectF m_slice;
+};
+
+// The font that stands for "Helvetica": the same widths, found on every machine that the program is
+// installed on. Size in points.
+QFont printFont(double size, bool bold = false, bool oblique = false);
+// The box of a line of text, points; the same on every device.
+QSizeF textSize(const QString& text, const QFont& font);
+
+} // namespace zelvor
