@@ -1,5 +1,7 @@
 #include "core/view.h"
 
+#include <utility>
+
 namespace zelvor {
 
 void BaseView::setName(QString name)
@@ -26,12 +28,24 @@ void BaseView::setGroundColor(const Color& color)
     reloadData();
 }
 
+void BaseView::onReload(std::function<void()> listener)
+{
+    onReload(m_self, std::move(listener));
+}
+
+void BaseView::onReload(std::weak_ptr<const void> owner, std::function<void()> listener)
+{
+    std::erase_if(m_listeners, [](const Listener& known) { return known.owner.expired(); });
+    m_listeners.push_back({std::move(owner), std::move(listener)});
+}
+
 void BaseView::reloadData() const
 {
-    // By index and by copy: a listener may add another one.
-    for (std::size_t i = 0; i < m_listeners.size(); ++i) {
-        const std::function<void()> listener = m_listeners[i];
-        listener();
+    // Of a copy: a listener may bring another one, or have one go.
+    const std::vector<Listener> listeners = m_listeners;
+    for (const Listener& listener : listeners) {
+        if (!listener.owner.expired())
+            listener.tell();
     }
 }
 

@@ -59,7 +59,12 @@ public:
     bool isVisible() const { return m_visible; }
     void setVisible(bool visible) { m_visible = visible; }
 
-    void onReload(std::function<void()> listener) { m_listeners.push_back(std::move(listener)); }
+    // Heard as long as the view lives.
+    void onReload(std::function<void()> listener);
+    // Heard as long as the owner lives: for whoever may go before the view does.
+    void onReload(std::weak_ptr<const void> owner, std::function<void()> listener);
+    // Those of owners that went are still counted until the next one comes.
+    std::size_t listenerCount() const { return m_listeners.size(); }
     // Tells whoever shows the view that its rows, columns or title changed.
     void reloadData() const;
 
@@ -67,13 +72,19 @@ public:
     void setGroundColor(const Color& color);
 
 private:
+    struct Listener {
+        std::weak_ptr<const void> owner;
+        std::function<void()> tell;
+    };
+
     QString m_name;
     Color m_titleColor;
     QString m_tip;
     int m_index = -1;
     bool m_visible = false;
     Color m_groundColor = whiteColor;
-    std::vector<std::function<void()>> m_listeners;
+    std::shared_ptr<void> m_self = std::make_shared<char>(); // owns the listeners that nobody else does
+    std::vector<Listener> m_listeners;
 };
 
 // A flat list. Rows count from 0; a row outside the list and an unknown identifier give the empty text.

@@ -47,6 +47,51 @@ TEST(BaseView, aNewTitleOrColourIsToldOnceToWhoeverShowsTheView)
     EXPECT_EQ(view.titleColor(), redColor);
 }
 
+TEST(BaseView, aListenerIsToldAsLongAsItsOwnerLives)
+{
+    PlainTable view;
+    int reloads = 0;
+    auto owner = std::make_shared<int>();
+    view.onReload(owner, [&] { ++reloads; });
+    view.reloadData();
+    EXPECT_EQ(reloads, 1);
+    owner.reset();
+    view.reloadData();
+    EXPECT_EQ(reloads, 1);
+}
+
+TEST(BaseView, listenersWhoseOwnersWentDoNotPileUp)
+{
+    PlainTable view;
+    QString told;
+    view.onReload([&] { told += u'a'; });
+    const auto stays = std::make_shared<int>();
+    view.onReload(stays, [&] { told += u'b'; });
+    for (int i = 0; i < 100; ++i)
+        view.onReload(std::make_shared<int>(), [&] { told += u'x'; });
+    view.onReload([&] { told += u'c'; });
+    EXPECT_EQ(view.listenerCount(), 3U);
+    view.reloadData();
+    EXPECT_EQ(told, u"abc"_s);
+}
+
+TEST(BaseView, aListenerMayBringAnotherOneAndEndOneThatWaits)
+{
+    PlainTable view;
+    QString told;
+    auto waits = std::make_shared<int>();
+    view.onReload([&] {
+        told += u'a';
+        waits.reset();
+        view.onReload([&] { told += u'n'; });
+    });
+    view.onReload(waits, [&] { told += u'w'; });
+    view.reloadData();
+    EXPECT_EQ(told, u"a"_s);
+    view.reloadData();
+    EXPECT_EQ(told, u"aan"_s);
+}
+
 TEST(BaseView, aNewViewIsNotInTheTabStripAndNotVisible)
 {
     const PlainTable view;
