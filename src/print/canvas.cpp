@@ -2,6 +2,7 @@
 
 #include <QtGui/QFontMetricsF>
 #include <QtGui/QPainter>
+#include <QtGui/QPainterPath>
 #include <QtGui/QPen>
 
 #include <algorithm>
@@ -80,6 +81,37 @@ void Canvas::stroke(const Path& path, const Color& color)
         if (shows(std::min(line.from.y(), line.to.y()), std::max(line.from.y(), line.to.y())))
             m_painter.drawLine(onPainter(line.from), onPainter(line.to));
     }
+}
+
+void Canvas::polyline(const std::vector<QPointF>& points, double lineWidth, const Color& color,
+                      const QRectF& within)
+{
+    if (points.size() < 2 || !shows(within.top(), within.bottom()))
+        return;
+    QPolygonF line;
+    for (const QPointF& point : points)
+        line.append(onPainter(point));
+    m_painter.save();
+    m_painter.setClipRect(QRectF(onPainter(within.bottomLeft()), within.size()), Qt::IntersectClip);
+    m_painter.setPen(QPen(toQColor(color), lineWidth, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
+    m_painter.drawPolyline(line);
+    m_painter.restore();
+}
+
+void Canvas::wedge(const QPointF& centre, double radius, double startAngle, double angle, const Color& color)
+{
+    if (!shows(centre.y() - radius, centre.y() + radius))
+        return;
+    const QPointF middle = onPainter(centre);
+    QPainterPath path(middle);
+    path.arcTo(QRectF(middle.x() - radius, middle.y() - radius, 2 * radius, 2 * radius), startAngle, angle);
+    path.closeSubpath();
+    m_painter.fillPath(path, toQColor(color));
+}
+
+Canvas Canvas::movedTo(const QPointF& origin) const
+{
+    return Canvas(m_painter, m_slice.translated(-origin));
 }
 
 QFont printFont(double size, bool bold, bool oblique)

@@ -45,6 +45,14 @@ public:
     };
     void stroke(const Path& path, const Color& color);
 
+    // One line through all points, round at its corners; what lies outside `within` is cut off.
+    void polyline(const std::vector<QPointF>& points, double lineWidth, const Color& color,
+                  const QRectF& within);
+    // The part of a disc between two angles: degrees, counter-clockwise from the right.
+    void wedge(const QPointF& centre, double radius, double startAngle, double angle, const Color& color);
+    // The same sheet, seen with its origin at that point of this one.
+    Canvas movedTo(const QPointF& origin) const;
+
 private:
     QPointF onPainter(const QPointF& point) const;
 
