@@ -1,11 +1,7 @@
 #include "cli/command.h"
-#include "cli/output.h"
 #include "cli/program.h"
 #include "cli/report.h"
 #include "cli/report_printer.h"
-
-#include <QtCore/QFileInfo>
-#include <QtCore/QSaveFile>
 
 #include <algorithm>
 #include <array>
@@ -16,7 +12,13 @@ namespace zelvor {
 
 std::span<const Report* const> reports()
 {
-    static constexpr std::array all{&balanceReport, &periodSellReport, &journalReport};
+    // clang-format off
+    static constexpr std::array all{
+        &balanceReport,
+        &periodSellReport,
+        &journalReport,
+    };
+    // clang-format on
     return all;
 }
 
@@ -39,7 +41,41 @@ constexpr OptionInfo options[] = {
     {"--managers", true},
     {"--kind", true},
     {"--type", true},
+    {"--id", true},
+    {"--date", true},
+    {"--stocks", true},
+    {"--expend-types", true},
+    {"--expends", true},
+    {"--rows", true},
 };
+
+struct ReportFormat {
+    const char* name;
+    bool (*print)(const ReportTable& table, const Calendar& calendar, const Sink& sink);
+};
+
+// The first one is the one that is written unless another is asked for.
+constexpr ReportFormat formats[] = {
+    {"json", printJson},
+    {"text", printText},
+    {"csv", printCsv},
+};
+
+const ReportFormat* formatNamed(const QString& name)
+{
+    const auto* const found = std::ranges::find_if(
+        formats, [&](const ReportFormat& format) { return name == QLatin1StringView(format.name); });
+    return found == std::end(formats) ? nullptr : found;
+}
+
+QString unknownFormat()
+{
+    QStringList names;
+    for (const ReportFormat& format : formats)
+        names.append(QString::fromLatin1(format.name));
+    return u"report: --format must be one of "_s + names.join(u", "_s);
+}
+
 const Report* reportNamed(const QString& name)
 {
     const auto found = std::ranges::find_if(
@@ -67,27 +103,6 @@ QString strayOption(const Report& report, const Arguments& arguments)
     return {};
 }
 
-int printTo(const ReportSink& sink, const ReportTable& table, bool asText, const Calendar& calendar)
-{
-    const bool printed = asText ? printText(table, calendar, sink) : printJson(table, sink);
-    return printed ? exitDone : exitRefused;
-}
-
-// Whole or not at all. The finished file takes the place of the old one, so a device must not stand there.
-int printToFile(const QString& path, const ReportTable& table, bool asText, const Calendar& calendar)
-{
-    if (const QFileInfo old(path); old.exists() && !old.isFile() && !old.isDir())
-        return badUsage(u"cannot write "_s + path + u": it is not a regular file"_s);
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return badUsage(u"cannot write "_s + path + u": "_s + file.errorString());
-    const auto sink = [&](const QByteArray& piece) { return file.write(piece) == piece.size(); };
-    if (printTo(sink, table, asText, calendar) == exitDone && file.commit())
-        return exitDone;
-    writeError(u"cannot write "_s + path + u": "_s + file.errorString());
-    return exitRefused;
-}
-
 QByteArray listReports()
 {
     QByteArray text = "Reports and their options:\n";
@@ -105,9 +120,9 @@ int run(const Arguments& arguments)
         return badUsage(unknownReport(name));
     if (const QString stray = strayOption(*report, arguments); !stray.isEmpty())
         return badUsage(u"report: "_s + name + u" takes no "_s + stray);
-    const QString format = arguments.value(u"--format"_s).value_or(u"json"_s);
-    if (format != u"json" && format != u"text")
-        return badUsage(u"report: --format must be json or text"_s);
+    const ReportFormat* format = formatNamed(arguments.value(u"--format"_s).value_or(u"json"_s));
+    if (!format)
+        return badUsage(unknownFormat());
     const std::optional<QString> path = arguments.value(u"-o"_s);
     if (path && isSameFile(*path, project))
         return badUsage(u"report: -o must not name the project itself"_s);
@@ -117,9 +132,7 @@ int run(const Arguments& arguments)
         return exitBadUsage;
     const Calendar& calendar = program.appDelegate.calendar;
     return report->run(program.appDelegate, arguments, [&](const ReportTable& table) {
-        const bool asText = format == u"text";
-        return path ? printToFile(*path, table, asText, calendar)
-                    : printTo(writeOutput, table, asText, calendar);
+        return deliver(path, [&](const Sink& sink) { return format->print(table, calendar, sink); });
     });
 }
 
@@ -127,9 +140,9 @@ int run(const Arguments& arguments)
 
 const Command reportCommand{
     "report",
-    "report NAME PROJECT.pdb [--format json|text] [-o FILE] [options of the report]",
+    "report NAME PROJECT.pdb [--format json|text|csv] [-o FILE] [options of the report]",
     "computes a report",
-    "  --format F  json (the default) or text\n"
+    "  --format F  json (the default), text or csv\n"
     "  -o FILE     writes FILE, whole or not at all, instead of standard output\n"
     "DAY is 2026-10-05, or @ and seconds since 1970; IDS are ids like 1,2,3.\n",
     options,

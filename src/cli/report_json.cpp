@@ -21,7 +21,7 @@ void writeRow(const ReportTable& table, const std::vector<ViewColumn>& columns, 
 
 } // namespace
 
-bool printJson(const ReportTable& table, const ReportSink& sink)
+bool printJson(const ReportTable& table, const Calendar&, const Sink& sink)
 {
     const std::vector<ViewColumn> columns = table.view.columns();
     JsonWriter json;

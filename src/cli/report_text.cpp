@@ -85,7 +85,7 @@ private:
 
 } // namespace
 
-bool printText(const ReportTable& table, const Calendar& calendar, const ReportSink& sink)
+bool printText(const ReportTable& table, const Calendar& calendar, const Sink& sink)
 {
     const TextLines lines(table, calendar);
     if (!sink(table.view.name().toUtf8() + "\n\n" + lines.titles()))

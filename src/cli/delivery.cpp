@@ -1,0 +1,45 @@
+#include "cli/delivery.h"
+
+#include "cli/command.h"
+#include "cli/output.h"
+
+#include <QtCore/QFileInfo>
+#include <QtCore/QSaveFile>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+// The finished file takes the place of the old one, so a device must not stand there.
+int deliverFile(const QString& path, const std::function<bool(const Sink&)>& write)
+{
+    if (const QFileInfo old(path); old.exists() && !old.isFile() && !old.isDir())
+        return badUsage(u"cannot write "_s + path + u": it is not a regular file"_s);
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return badUsage(u"cannot write "_s + path + u": "_s + file.errorString());
+    bool taken = true;
+    const bool written = write([&](const QByteArray& piece) {
+        taken = taken && file.write(piece) == piece.size();
+        return taken;
+    });
+    if (taken && !written)
+        return exitRefused;
+    if (taken && file.commit())
+        return exitDone;
+    writeError(u"cannot write "_s + path + u": "_s + file.errorString());
+    return exitRefused;
+}
+
+} // namespace
+
+int deliver(const std::optional<QString>& path, const std::function<bool(const Sink&)>& write)
+{
+    if (path)
+        return deliverFile(*path, write);
+    return write(writeOutput) ? exitDone : exitRefused;
+}
+
+} // namespace zelvor
