@@ -2,6 +2,7 @@
 
 #include "core/doc_type.h"
 #include "core/localized.h"
+#include "reports/id_filter.h"
 #include "reports/sold_sums.h"
 
 #include <algorithm>
@@ -16,16 +17,6 @@ namespace {
 constexpr qint64 contragentOffset = 10'000;
 constexpr qint64 managerOffset = 100'000;
 constexpr qint64 noManagerRowID = 1'000'000;
-
-// A filter of ids; without ids everything passes.
-class IDFilter {
-public:
-    explicit IDFilter(std::vector<qint64> ids) : m_ids(std::move(ids)) { std::ranges::sort(m_ids); }
-    bool passes(qint64 id) const { return m_ids.empty() || std::ranges::binary_search(m_ids, id); }
-
-private:
-    std::vector<qint64> m_ids;
-};
 
 // The columns of a catalog record that the report needs.
 struct CatalogEntry {

@@ -1,37 +1,9 @@
 #include "reports/period_sell_report_view_controller.h"
 
 #include "core/localized.h"
+#include "reports/filter_popover.h"
 
 namespace zelvor {
-
-using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-QString displayOf(std::size_t chosen, bool isEmpty)
-{
-    return isEmpty ? localized("all") : QString::number(chosen) + u' ' + localized("selected");
-}
-
-template <class SelectView>
-void openAsFilter(SelectView& view, SelectionOwner& owner, bool everything)
-{
-    if (everything)
-        view.selectAll();
-    else
-        view.backUpdateSelections();
-    view.sender = &owner;
-    view.selectPopover.open();
-}
-
-// A popover reads its records when it is opened next, or now while it is open.
-template <class SelectView>
-NotificationCenter::Observation staleWhen(NotificationCenter& center, NotificationName name, SelectView& view)
-{
-    return center.observe(name, [&view](const Notification&) { view.markStale(); });
-}
-
-} // namespace
 
 PeriodSellReportViewController::PeriodSellReportViewController(AppDelegate& owner)
     : ReportViewController(owner), contragentSelectView(owner), productsSelectView(owner),
@@ -85,11 +57,11 @@ PeriodSellReportRows PeriodSellReportViewController::prepareReportData()
 void PeriodSellReportViewController::setStringPredicates()
 {
     selectedContragentsDisplay.setText(
-        displayOf(m_query.contragentIDs.size(), m_query.contragentIDs.empty()));
+        filterText(m_query.contragentIDs.size(), m_query.contragentIDs.empty()));
     selectedProductsDisplay.setText(
-        displayOf(m_query.productIDs.size(), m_query.productIDs.empty() && m_query.productTypeIDs.empty()));
+        filterText(m_query.productIDs.size(), m_query.productIDs.empty() && m_query.productTypeIDs.empty()));
     selectedManagersDisplay.setText(
-        displayOf(m_query.selectedManagers.size(), m_query.selectedManagers.empty()));
+        filterText(m_query.selectedManagers.size(), m_query.selectedManagers.empty()));
 }
 
 void PeriodSellReportViewController::selectContragent()

@@ -1,5 +1,7 @@
 #include "reports/sold_sums.h"
 
+#include "reports/whole_cents.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -8,18 +10,6 @@ namespace zelvor {
 namespace {
 
 constexpr qint64 denseIDs = 1 << 16;
-// Ninety million rows of this size still fit their sum.
-constexpr double mostCents = 1e11;
-
-// The whole cents of a value that has nothing behind them.
-bool wholeCents(double value, qint64& cents)
-{
-    const double scaled = value * 100;
-    if (!(std::abs(scaled) < mostCents))
-        return false;
-    cents = static_cast<qint64>(scaled + (scaled < 0 ? -0.5 : 0.5));
-    return static_cast<double>(cents) / 100 == value;
-}
 
 Decimal sumOf(qint64 cents, const Decimal& rest)
 {
