@@ -945,6 +945,14 @@
         <translation>Развернуть всё</translation>
     </message>
     <message>
+        <source>Export</source>
+        <translation>Экспортировать</translation>
+    </message>
+    <message>
+        <source>Export table to .xls</source>
+        <translation>Экспорт таблицы в .xls</translation>
+    </message>
+    <message>
         <source>Export…</source>
         <translation>Экспорт…</translation>
     </message>
@@ -2143,6 +2151,10 @@ or Open Existing… for a project file that you have.</source>
     <message>
         <source>The salary must be a number!</source>
         <translation>Оклад должен быть числом!</translation>
+    </message>
+    <message>
+        <source>The table was not exported!</source>
+        <translation>Таблица не экспортирована!</translation>
     </message>
     <message>
         <source>There is no project at rest to copy.</source>

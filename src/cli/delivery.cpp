@@ -27,7 +27,8 @@ int deliverFile(const QString& path, const std::function<bool(const Sink&)>& wri
     });
     if (taken && !written)
         return exitRefused;
-    if (taken && file.commit())
+    // What is still buffered is written by flush(), whose failure commit() would not see.
+    if (taken && file.flush() && file.commit())
         return exitDone;
     writeError(u"cannot write "_s + path + u": "_s + file.errorString());
     return exitRefused;

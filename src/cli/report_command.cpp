@@ -59,6 +59,7 @@ constexpr ReportFormat formats[] = {
     {"json", printJson},
     {"text", printText},
     {"csv", printCsv},
+    {"xls", printXls},
 };
 
 const ReportFormat* formatNamed(const QString& name)

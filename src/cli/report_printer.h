@@ -14,5 +14,7 @@ bool printJson(const ReportTable& table, const Calendar& calendar, const Sink& s
 bool printText(const ReportTable& table, const Calendar& calendar, const Sink& sink);
 // RFC 4180: a line of column identifiers, then a line for each row; plain figures, local moments.
 bool printCsv(const ReportTable& table, const Calendar& calendar, const Sink& sink);
+// The bytes of the desktop's export.
+bool printXls(const ReportTable& table, const Calendar& calendar, const Sink& sink);
 
 } // namespace zelvor

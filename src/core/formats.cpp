@@ -58,6 +58,18 @@ QString exportNumberText(const Decimal& value, int maximumDigits)
     return grouped(text);
 }
 
+QString exportNumberText(const Decimal& value, const QLocale& locale)
+{
+    return exportNumberText(value).replace(u'.', locale.decimalPoint());
+}
+
+QString exportPercentText(const Decimal& fraction, const QLocale& locale)
+{
+    const Decimal percent = fraction.times(Decimal(100), moneyHandler);
+    return percent.isNaN() ? percent.toText()
+                           : locale.toString(percent.toDouble(), 'f', 2) + locale.percent();
+}
+
 QString percentText(const Decimal& fraction)
 {
     const Decimal percent = fraction.times(Decimal(100), moneyHandler);

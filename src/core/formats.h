@@ -13,6 +13,10 @@ QString amountText(const Decimal& value);
 QString amountText(double value);
 // Groups of three parted by a blank, at least two and at most `maximumDigits` digits behind the point.
 QString exportNumberText(const Decimal& value, int maximumDigits = 2);
+// The same with two digits behind the locale's decimal separator.
+QString exportNumberText(const Decimal& value, const QLocale& locale);
+// A fraction as percent with two digits, groups and signs the locale's: 0.4286 is "42.86%".
+QString exportPercentText(const Decimal& fraction, const QLocale& locale);
 // A fraction as percent with at most two digits: 0.4286 is "42.86 %".
 QString percentText(const Decimal& fraction);
 // The default text of a real number in a message: shortest round-trip digits, always with a point: "6.0".

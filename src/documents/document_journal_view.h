@@ -20,6 +20,7 @@ public:
     // The documents in the order shown, as they were read last.
     std::vector<std::shared_ptr<DocumentModel>> documents;
 
+    bool canExportToExcel() const override { return true; }
     std::vector<ViewColumn> columns() const override;
     int numberOfRows() const override;
     QVariant value(int row, const QString& identifier) const override;

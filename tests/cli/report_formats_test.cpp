@@ -1,6 +1,7 @@
 #include "cli/cli_test.h"
 
 #include <QtCore/QFileInfo>
+#include <QtCore/QStringDecoder>
 
 namespace zelvor {
 
@@ -51,6 +52,47 @@ TEST_F(ReportFormats, csvWritesFiguresWithoutAnExponent)
     const QByteArray csv = run(journal({"--kind", "money", "--format", "csv"})).out;
     EXPECT_TRUE(csv.contains(",false,100000,")) << csv.constData();
     EXPECT_TRUE(csv.contains(",false,0.01,")) << csv.constData();
+}
+
+TEST_F(ReportFormats, xlsIsTheDesktopsExportInUtf16)
+{
+    const CliRun result = run(journal({"--type", "SellProduct", "--format", "xls"}));
+    EXPECT_EQ(result.exitCode, 0);
+    ASSERT_TRUE(result.out.startsWith("\xFF\xFE")) << result.out.left(8).toHex().constData();
+    QStringDecoder fromUtf16(QStringDecoder::Utf16);
+    const QString text = fromUtf16(result.out);
+    EXPECT_EQ(
+        text.toStdString(),
+        "<table><tr><td>Number</td><td>Document</td><td>Date</td><td>Confirmed</td><td>Correction</td>"
+        "<td>Sum</td><td>Counterparty</td><td>From</td><td>To</td><td>Employee</td><td>Comment</td></tr>"
+        "<tr><td>1</td><td>Product Document 'Sale' #1</td><td>10 Jan 2024</td><td>yes</td>"
+        "<td>no</td><td>1 234.50</td><td>A \"quoted\", <b>big</b> & =1+1 name</td><td>Shop</td><td></td>"
+        "<td></td><td>=1+1</td></tr></table>");
+}
+
+TEST_F(ReportFormats, xlsWritesAFileExactlyAsItIsNamed)
+{
+    const QByteArray out = run({"report", "balance", project, "--format", "xls"}).out;
+    EXPECT_TRUE(
+        run({"report", "balance", project, "--format", "xls", "-o", file("sheet.txt")}).out.isEmpty());
+    EXPECT_EQ(read(file("sheet.txt")), out);
+    EXPECT_EQ(QDir(m_folder.path()).entryList({"sheet*"}), QStringList{"sheet.txt"});
+}
+
+TEST_F(ReportFormats, aFullDiskIsARefusalAndLeavesTheOlderFileAlone)
+{
+    for (const char* format : {"json", "text", "csv", "xls"}) {
+        write("old", "what was there");
+        QProcess process;
+        prepare(process);
+        process.start("sh", {"-c", "ulimit -f 0; exec \"$0\" \"$@\"", ZELVOR_CLI, "report", "balance",
+                             project, "--format", format, "-o", file("old")});
+        ASSERT_TRUE(process.waitForFinished());
+        EXPECT_EQ(process.exitCode(), 1) << format;
+        EXPECT_EQ(process.readAllStandardError().count('\n'), 1) << format;
+        EXPECT_EQ(read(file("old")), "what was there") << format;
+        EXPECT_EQ(QDir(m_folder.path()).entryList({"old*"}), QStringList{"old"}) << format;
+    }
 }
 
 TEST_F(ReportFormats, anUnknownFormatIsBadUsage)

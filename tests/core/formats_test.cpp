@@ -49,6 +49,26 @@ TEST(Formats, exportedNumbersHaveAtLeastTwoAndAtMostTheGivenDigits)
     EXPECT_EQ(exportNumberText(Decimal::nan(), 4), u"NaN"_s);
 }
 
+TEST(Formats, exportedNumbersHaveTheDecimalSeparatorOfTheLocaleAndBlanksBetweenGroups)
+{
+    const QLocale german(QLocale::German, QLocale::Germany);
+    EXPECT_EQ(exportNumberText(number(u"1234567.891"), QLocale::c()), u"1 234 567.89"_s);
+    EXPECT_EQ(exportNumberText(number(u"1234567.891"), german), u"1 234 567,89"_s);
+    EXPECT_EQ(exportNumberText(number(u"-1000"), german), u"-1 000,00"_s);
+    EXPECT_EQ(exportNumberText(number(u"0.125"), german), u"0,12"_s);
+    EXPECT_EQ(exportNumberText(Decimal::nan(), german), u"NaN"_s);
+}
+
+TEST(Formats, exportedFractionsAreTwoDigitsOfPercent)
+{
+    EXPECT_EQ(exportPercentText(number(u"0.4286"), QLocale::c()), u"42.86%"_s);
+    EXPECT_EQ(exportPercentText(number(u"1"), QLocale::c()), u"100.00%"_s);
+    EXPECT_EQ(exportPercentText(number(u"-0.5"), QLocale::c()), u"-50.00%"_s);
+    EXPECT_EQ(exportPercentText(number(u"12.3456"), QLocale(QLocale::German, QLocale::Germany)),
+              u"1.234,56%"_s);
+    EXPECT_EQ(exportPercentText(Decimal::nan(), QLocale::c()), u"NaN"_s);
+}
+
 TEST(Formats, fractionsAreShownAsPercent)
 {
     EXPECT_EQ(percentText(number(u"0.4286")), u"42.86 %"_s);

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "print/export/excel_table.h"
+
+namespace zelvor {
+
+class BalanceView;
+class DocumentJournalView;
+class ExpendView;
+class PeriodSellReportView;
+class ProductView;
+class PropertyJournalView;
+
+// The table of each kind of view. Which cells a row has, and in which order, is told here and not by the
+// columns of the view: the titles above follow the columns and can stand in another order.
+QString excelTableOf(const PeriodSellReportView& view, const ExcelTexts& texts);
+QString excelTableOf(const BalanceView& view, const ExcelTexts& texts);
+QString excelTableOf(const DocumentJournalView& view, const ExcelTexts& texts);
+QString excelTableOf(const PropertyJournalView& view, const ExcelTexts& texts);
+QString excelTableOf(const ProductView& view, const ExcelTexts& texts);
+QString excelTableOf(const ExpendView& view, const ExcelTexts& texts);
+// Any other list: a cell for each visible column.
+QString excelTableOf(const TableView& view, const ExcelTexts& texts);
+
+} // namespace zelvor
