@@ -2037,6 +2037,14 @@ or Open Existing… for a project file that you have.</source>
         <translation>Изменения не сохранены!</translation>
     </message>
     <message>
+        <source>The company logo %1 cannot be read as a picture, so the form was printed without it.</source>
+        <translation>Логотип компании %1 не читается как изображение, поэтому форма напечатана без него.</translation>
+    </message>
+    <message>
+        <source>The company logo %1 was not found, so the form was printed without it.</source>
+        <translation>Логотип компании %1 не найден, поэтому форма напечатана без него.</translation>
+    </message>
+    <message>
         <source>The company pays GST</source>
         <translation>Компания платит GST</translation>
     </message>

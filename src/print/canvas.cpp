@@ -1,6 +1,5 @@
 #include "print/canvas.h"
 
-#include <QtGui/QFontMetricsF>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
 #include <QtGui/QPen>
@@ -13,8 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Widths are taken at this many times the size, where no grid of pixels rounds them.
-constexpr int measuringScale = 64;
+constexpr int units = FontFaces::unitsPerPoint;
 
 QColor toQColor(const Color& color)
 {
@@ -22,53 +20,85 @@ QColor toQColor(const Color& color)
                             static_cast<float>(color.blue), static_cast<float>(color.alpha));
 }
 
-QFontMetricsF largeMetrics(const QFont& font)
-{
-    QFont large(font);
-    large.setPixelSize(font.pixelSize() * measuringScale);
-    return QFontMetricsF(large);
-}
-
 } // namespace
 
-Canvas::Canvas(QPainter& painter, const QRectF& slice) : m_painter(painter), m_slice(slice) {}
+Canvas::Canvas(QPainter& painter, const QRectF& slice)
+    : m_painter(painter), m_slice(slice), m_ownFaces(std::make_unique<FontFaces>()), m_faces(*m_ownFaces)
+{
+    preparePainter();
+}
+
+Canvas::Canvas(QPainter& painter, const QRectF& slice, FontFaces& faces)
+    : m_painter(painter), m_slice(slice), m_faces(faces)
+{
+    preparePainter();
+}
+
+void Canvas::preparePainter()
+{
+    m_painter.save();
+    m_painter.scale(1.0 / units, 1.0 / units);
+    m_painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                             QPainter::SmoothPixmapTransform | QPainter::LosslessImageRendering);
+}
+
+Canvas::~Canvas()
+{
+    m_painter.restore();
+}
 
 bool Canvas::shows(double bottom, double top) const
 {
-    return top >= m_slice.top() && bottom <= m_slice.bottom();
+    return top > m_slice.top() && bottom < m_slice.bottom();
 }
 
 QPointF Canvas::onPainter(const QPointF& point) const
 {
-    return {point.x() - m_slice.left(), m_slice.bottom() - point.y()};
+    return QPointF(point.x() - m_slice.left(), m_slice.bottom() - point.y()) * units;
+}
+
+QRectF Canvas::onPainter(const QRectF& rect) const
+{
+    return {onPainter(rect.bottomLeft()), rect.size() * units};
 }
 
 void Canvas::fill(const QRectF& rect, const Color& color)
 {
+    // A sheet of a thousand pages is larger than what a picture's painter can fill.
     if (shows(rect.top(), rect.bottom()))
-        m_painter.fillRect(QRectF(onPainter(rect.bottomLeft()), rect.size()), toQColor(color));
+        m_painter.fillRect(onPainter(rect.intersected(m_slice)), toQColor(color));
 }
 
 void Canvas::text(const QPointF& point, const QString& text, const QFont& font, const Color& color)
 {
-    const QFontMetricsF metrics = largeMetrics(font);
-    const double descent = metrics.descent() / measuringScale;
-    if (!shows(point.y(), point.y() + metrics.height() / measuringScale))
+    if (text.isEmpty() || !shows(point.y(), point.y() + m_faces.textSize({}, font).height()))
         return;
-    m_painter.setFont(font);
     m_painter.setPen(toQColor(color));
-    m_painter.drawText(onPainter(point) - QPointF(0, descent), text);
+    m_faces.draw(m_painter, onPainter(point), text, font);
 }
 
 void Canvas::image(const QRectF& rect, const QImage& image)
 {
     if (shows(rect.top(), rect.bottom()))
-        m_painter.drawImage(QRectF(onPainter(rect.bottomLeft()), rect.size()), image);
+        m_painter.drawImage(onPainter(rect), image);
+}
+
+// What a page shows of a line, and a little more: an upright one may run along the whole sheet. A dashed line
+// stays as it is, for its pattern begins where it begins.
+Canvas::Path::Line Canvas::visiblePart(Path::Line line, const Path& path) const
+{
+    if (line.from.x() != line.to.x() || !path.dashes.empty())
+        return line;
+    const double bottom = m_slice.top() - path.lineWidth;
+    const double top = m_slice.bottom() + path.lineWidth;
+    line.from.setY(std::clamp(line.from.y(), bottom, top));
+    line.to.setY(std::clamp(line.to.y(), bottom, top));
+    return line;
 }
 
 void Canvas::stroke(const Path& path, const Color& color)
 {
-    QPen pen(toQColor(color), path.lineWidth);
+    QPen pen(toQColor(color), path.lineWidth * units);
     pen.setCapStyle(Qt::FlatCap);
     if (!path.dashes.empty()) {
         QList<qreal> pattern; // in widths of the line
@@ -77,9 +107,13 @@ void Canvas::stroke(const Path& path, const Color& color)
         pen.setDashPattern(pattern);
     }
     m_painter.setPen(pen);
+    const double half = path.lineWidth / 2;
     for (const Path::Line& line : path.lines) {
-        if (shows(std::min(line.from.y(), line.to.y()), std::max(line.from.y(), line.to.y())))
-            m_painter.drawLine(onPainter(line.from), onPainter(line.to));
+        const auto [bottom, top] = std::minmax(line.from.y(), line.to.y());
+        if (!shows(bottom - half, top + half))
+            continue;
+        const Path::Line part = visiblePart(line, path);
+        m_painter.drawLine(onPainter(part.from), onPainter(part.to));
     }
 }
 
@@ -117,6 +151,7 @@ Canvas Canvas::movedTo(const QPointF& origin) const
 QFont printFont(double size, bool bold, bool oblique)
 {
     QFont font(QStringList{u"Liberation Sans"_s, u"Arimo"_s, u"Nimbus Sans"_s, u"Helvetica"_s});
+    font.setStyleHint(QFont::SansSerif);
     font.setPixelSize(static_cast<int>(size));
     font.setBold(bold);
     font.setItalic(oblique);
@@ -126,8 +161,7 @@ QFont printFont(double size, bool bold, bool oblique)
 
 QSizeF textSize(const QString& text, const QFont& font)
 {
-    const QFontMetricsF metrics = largeMetrics(font);
-    return {metrics.horizontalAdvance(text) / measuringScale, metrics.height() / measuringScale};
+    return FontFaces().textSize(text, font);
 }
 
 } // namespace zelvor

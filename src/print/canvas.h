@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/colors.h"
+#include "print/font_faces.h"
 
 #include <QtCore/QPointF>
 #include <QtCore/QRectF>
@@ -9,6 +10,7 @@
 #include <QtGui/QFont>
 #include <QtGui/QImage>
 
+#include <memory>
 #include <vector>
 
 class QPainter;
@@ -24,9 +26,15 @@ public:
     // The painter's own origin is the upper left corner of `slice`, a part of the sheet; one unit of the
     // painter is one point.
     Canvas(QPainter& painter, const QRectF& slice);
+    // The same with fonts that are measured already, as a form's own are.
+    Canvas(QPainter& painter, const QRectF& slice, FontFaces& faces);
+    ~Canvas(); // the painter is as it was
+    Canvas(const Canvas&) = delete;
+    Canvas& operator=(const Canvas&) = delete;
 
     const QRectF& slice() const { return m_slice; }
-    // Whether anything between the two heights can be seen.
+    // Whether anything between the two heights can be seen. A form with many rows asks it for each row before
+    // it makes the row's texts.
     bool shows(double bottom, double top) const;
     void fill(const QRectF& rect, const Color& color);
     void text(const QPointF& point, const QString& text, const QFont& font, const Color& color);
@@ -54,16 +62,21 @@ public:
     Canvas movedTo(const QPointF& origin) const;
 
 private:
+    void preparePainter();
+    Path::Line visiblePart(Path::Line line, const Path& path) const;
     QPointF onPainter(const QPointF& point) const;
+    QRectF onPainter(const QRectF& rect) const;
 
     QPainter& m_painter;
     QRectF m_slice;
+    std::unique_ptr<FontFaces> m_ownFaces;
+    FontFaces& m_faces;
 };
 
 // The font that stands for "Helvetica": the same widths, found on every machine that the program is
 // installed on. Size in points.
 QFont printFont(double size, bool bold = false, bool oblique = false);
-// The box of a line of text, points; the same on every device.
+// The box of a line of text, points; the same on every device. What measures many asks its FontFaces.
 QSizeF textSize(const QString& text, const QFont& font);
 
 } // namespace zelvor

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "core/decimal.h"
 #include "print/canvas.h"
 #include "store/app_delegate.h"
 
 #include <QtCore/QStringList>
+
+#include <memory>
 
 namespace zelvor {
 
@@ -34,7 +37,7 @@ public:
     const Color titleColor = inOrderColor;
     const double rowHeight = 14;
 
-    QImage logo; // null without one; logoSize tells how large it is drawn
+    QImage logo; // null without one; it may hold more pixels than the points of logoSize it is drawn in
     QSizeF logoSize;
     double delta = 0; // the height that the logo takes from the top of the sheet
     std::shared_ptr<Params> params;
@@ -57,12 +60,23 @@ public:
                                       double scale);
     int knowsPageRange(float pageHeight) const;           // the number of pages
     QRectF rectForPage(int page, float pageHeight) const; // page counts from 1
-    // The lines of a text in `colDataFont`: a word that is wider than the width stands alone, uncut.
+    // The lines of a text in `colDataFont`: a word that is wider than the width stands alone, uncut. A line
+    // that would repeat the one before it at the end of the text is left out.
     QStringList splitRow(const QString& text, double width) const;
+
+    // The box of a line of text, points; quick, since the form keeps what it learned of its fonts.
+    QSizeF textSize(const QString& text, const QFont& font) const { return m_faces->textSize(text, font); }
+    FontFaces& faces() const { return *m_faces; }
+
+    // A figure: two digits, groups parted by a blank, the locale's decimal separator.
+    static QString numberText(const Decimal& value);
+    // The locale's short date of a moment, without the time.
+    QString dateText(qint64 moment) const;
 
 private:
     QSizeF m_frame;
     bool m_landscape;
+    std::unique_ptr<FontFaces> m_faces;
 };
 
 } // namespace zelvor
