@@ -292,6 +292,10 @@
         <translation>Курсы всех валют актуальны</translation>
     </message>
     <message>
+        <source>All currencies updated at: </source>
+        <translation>Курсы всех валют обновлены: </translation>
+    </message>
+    <message>
         <source>Amortized</source>
         <translation>Амортизация</translation>
     </message>
@@ -1339,6 +1343,10 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
         <translation>Новая продажа</translation>
     </message>
     <message>
+        <source>New version of application is available. Would you like to download it?</source>
+        <translation>Вышла новая версия программы. Загрузить её?</translation>
+    </message>
+    <message>
         <source>New…</source>
         <translation>Создать…</translation>
     </message>
@@ -2017,6 +2025,10 @@ or Open Existing… for a project file that you have.</source>
         <translation>Налоги</translation>
     </message>
     <message>
+        <source>Tell me of new versions when a project is opened</source>
+        <translation>Сообщать о новых версиях при открытии проекта</translation>
+    </message>
+    <message>
         <source>The GST rate must lie between 0 and 100 percent.</source>
         <translation>Ставка GST должна быть от 0 до 100 процентов.</translation>
     </message>
@@ -2280,6 +2292,10 @@ or Open Existing… for a project file that you have.</source>
     <message>
         <source>Units in a Pack</source>
         <translation>Единиц в упаковке</translation>
+    </message>
+    <message>
+        <source>Update available.</source>
+        <translation>Доступно обновление.</translation>
     </message>
     <message>
         <source>Ups! Something goes wrong!</source>

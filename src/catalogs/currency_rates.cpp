@@ -7,6 +7,9 @@ namespace zelvor {
 
 namespace {
 
+// As everywhere a number comes in.
+constexpr Decimal largestRate{10'000'000'000'000};
+
 void storeRates(Connector& connector, UserWrite& write, const QMap<qint64, double>& rates, qint64 ownCurrency)
 {
     if (rates.isEmpty())
@@ -16,7 +19,7 @@ void storeRates(Connector& connector, UserWrite& write, const QMap<qint64, doubl
         if (entry == rates.end())
             continue;
         const Decimal rate = Decimal::fromDouble(*entry, Currency::decimalHandler);
-        if (!rate.isPositive())
+        if (!rate.isPositive() || rate > largestRate)
             continue;
         currency->innerRate = rate;
         if (!write.step(connector.update(*currency)))

@@ -8,12 +8,21 @@
 
 namespace zelvor {
 
+// A box below the text of a question: "do not ask again". It takes effect when it is ticked, whatever the
+// answer will be.
+struct AlertCheckBox {
+    QString title;
+    bool on = false;
+    std::function<void(bool)> onToggled;
+};
+
 // A question or message for the user. alertStyle: 0 warning, 1 informational sheet.
 struct Alert {
     QString messageText;
     QString informativeText;
     QStringList buttons;
     int alertStyle = 0;
+    std::optional<AlertCheckBox> checkBox = {};
 };
 
 inline constexpr int firstButton = 1000; // the answers count up from here

@@ -54,7 +54,7 @@ void DesktopApplication::connectWindows()
 
 void DesktopApplication::start(const QString& path)
 {
-    path.isEmpty() ? shell.openLastProject() : shell.openFile(path);
+    shell.applicationDidFinishLaunching(path);
 }
 
 void DesktopApplication::quit()

@@ -7,6 +7,7 @@
 #include <QtCore/QStandardPaths>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
@@ -35,9 +36,24 @@ std::vector<QAbstractButton*> fill(QMessageBox& box, const Alert& alert)
         buttons.push_back(box.addButton(QString(title).replace(u'&', u"&&"_s), QMessageBox::ActionRole));
     if (buttons.empty())
         buttons.push_back(box.addButton(QMessageBox::Close));
+    if (alert.checkBox)
+        addCheckBox(box, *alert.checkBox);
     box.setDefaultButton(qobject_cast<QPushButton*>(buttons.front()));
     box.setEscapeButton(buttons.back());
     return buttons;
+}
+
+// What it stands for holds from the tick on, whatever button is pressed then.
+void addCheckBox(QMessageBox& box, const AlertCheckBox& given)
+{
+    auto* const check = new QCheckBox(QString(given.title).replace(u'&', u"&&"_s), &box);
+    check->setObjectName(u"alertCheckBox"_s);
+    check->setChecked(given.on);
+    QObject::connect(check, &QCheckBox::toggled, &box, [onToggled = given.onToggled](bool on) {
+        if (onToggled)
+            onToggled(on);
+    });
+    box.setCheckBox(check);
 }
 
 QString startFolder()

@@ -26,6 +26,14 @@ ApplicationShell::ApplicationShell(AppDelegate& owner)
     preferences.onLeaveProject = [this] { closeWindow(); };
 }
 
+void ApplicationShell::applicationDidFinishLaunching(const QString& path)
+{
+    OnlineServices& online = appDelegate.online();
+    if (appDelegate.defaults.crashReportConsent() == CrashReportConsent::Always)
+        online.sendReports(online.crashReports());
+    path.isEmpty() ? openLastProject() : openFile(path);
+}
+
 void ApplicationShell::openLastProject()
 {
     if (openDefaultBusiness()) {
@@ -80,6 +88,7 @@ void ApplicationShell::checkDefaultCurrency()
     window.open();
     mainWindowController.checkParams();
     mainWindowController.checkPeriod();
+    mainWindowController.checkUpdate();
 }
 
 void ApplicationShell::prepareMainWindow()

@@ -26,7 +26,10 @@ public:
     Popover window{QStringLiteral("window")}; // the main window: open while it is on the screen
     Label windowTitle{QStringLiteral("windowTitle")};
 
-    // At the start: the project that was open last, or the project window.
+    // The start of the program: reports of crashes are sent first of all, when the user has agreed for good;
+    // then the file that was handed over is opened or, without one, the project that was open last.
+    void applicationDidFinishLaunching(const QString& path = {});
+    // The project that was open last, or the project window.
     void openLastProject();
     // A file handed over by a file manager. It becomes one of the known projects; when it cannot be opened
     // the user is told and the project window comes up.

@@ -1,17 +1,25 @@
 #include "shell/main_menu_resource.h"
 
-#include "shell/plist_resource.h"
+#include "store/plist_dictionary.h"
 
 #include <QtCore/QFile>
+#include <QtCore/QResource>
 #include <QtCore/QXmlStreamReader>
 
 using namespace Qt::Literals::StringLiterals;
+
+// Outside any namespace, as the macro asks for it. The linker drops the resources of a static library that
+// nobody asks for.
+static void initializeResources()
+{
+    Q_INIT_RESOURCE(shell);
+}
 
 namespace zelvor {
 
 std::vector<MenuSeed> mainMenuSeed()
 {
-    initializeShellResources();
+    initializeResources();
     QFile file(u":/MainMenu.plist"_s);
     if (!file.open(QIODevice::ReadOnly))
         qFatal("The program's menu list is missing.");

@@ -17,7 +17,6 @@
 #include "documents/product_document_view_controller.h"
 #include "period/balance_view_controller.h"
 #include "reports/period_sell_report_view_controller.h"
-#include "shell/plist_resource.h"
 
 #include <QtCore/QLocale>
 
@@ -89,6 +88,8 @@ MainViewController::MainViewController(AppDelegate& owner)
     balance.setHidden(true);
     balanceLabel.setHidden(true);
     toggleLeftViewButton.onUserChange = [this] { toggleLeftView(); };
+    updateMenuItem.setEnabled(false);
+    updateMenuItem.onUserChange = [this] { checkUpdateManually(); };
     connectControllers();
     tabView.delegate = this;
     appDelegate.setWorkspace(this);
@@ -97,6 +98,10 @@ MainViewController::MainViewController(AppDelegate& owner)
                                             [this](const Notification&) { updateBalance(); }));
     m_observations.push_back(center.observe(NotificationName::DefaultsChangedNotification,
                                             [this](const Notification&) { updateDefaults(); }));
+    m_observations.push_back(center.observe(NotificationName::CurrencyUpdatedNotification,
+                                            [this](const Notification&) { currenciesUpdated(); }));
+    m_observations.push_back(center.observe(NotificationName::HasNewVersionNotification,
+                                            [this](const Notification&) { readyForUpdate(); }));
 }
 
 MainViewController::~MainViewController()
@@ -186,11 +191,58 @@ void MainViewController::clearWindow()
     forgetProject();
 }
 
+// --- what comes from the maker's server
+
+void MainViewController::currenciesUpdated()
+{
+    const QDateTime now = appDelegate.calendar.dateTime(appDelegate.now());
+    setStateString(localized("All currencies updated at: ") + QLocale().toString(now, QLocale::ShortFormat));
+    appDelegate.notifications.post(NotificationName::BalanceChangedNotification, this);
+}
+
+void MainViewController::readyForUpdate()
+{
+    informUserAboutUpdate(appDelegate.defaults.showUpdateWindow());
+    updateMenuItem.setEnabled(true);
+}
+
+// Without a project there is no main window to hang the notice on.
+void MainViewController::informUserAboutUpdate(bool show)
+{
+    if (!show || m_askingAboutUpdate || !appDelegate.connector.isOpen())
+        return;
+    DefaultsStore& defaults = appDelegate.defaults;
+    const AlertCheckBox showAgain{localized("Tell me of new versions when a project is opened"),
+                                  defaults.showUpdateWindow(), [&defaults](bool on) {
+                                      defaults.setShowUpdateWindow(on);
+                                      defaults.synchronize();
+                                  }};
+    const Alert notice{localized("Update available."),
+                       localized("New version of application is available. Would you like to download it?"),
+                       {localized("Update available."), localized("Cancel")},
+                       0,
+                       showAgain};
+    m_askingAboutUpdate = true;
+    appDelegate.dialogs.ask(notice, [this](int answer) {
+        m_askingAboutUpdate = false;
+        if (answer == firstButton)
+            openDownloadPage();
+    });
+}
+
+void MainViewController::openDownloadPage()
+{
+    const bool russian = QLocale().language() == QLocale::Russian;
+    if (window)
+        window->openUrl(appDelegate.settings.value(russian ? u"domain_ru"_s : u"domain_en"_s) +
+                        u"/zelvor/download/"_s);
+}
+
 void MainViewController::showHelp()
 {
     const QString key = QLocale().name() == u"ru_RU"_s ? u"domain_ru"_s : u"domain_en"_s;
     if (window)
-        window->openUrl(settingsValue(key) + u"/zelvor/docs/"_s);
+        window->openUrl(appDelegate.settings.value(key) + u"/zelvor/docs/"_s);
 }
 
 void MainViewController::showAbout()

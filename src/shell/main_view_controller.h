@@ -75,6 +75,8 @@ public:
     NumberField balance{QStringLiteral("balance")}; // debit less credit, currency of the project
     Label balanceLabel{QStringLiteral("balanceLabel")};
     Button toggleLeftViewButton{QStringLiteral("toggleLeftViewButton")}; // on: the left pane is collapsed
+    // Enabled once a newer version is known; shows the notice again.
+    Button updateMenuItem{QStringLiteral("updateMenuItem")};
     // The header panel shows settings (name, logo, currency) and is to be drawn anew.
     std::function<void()> onHeaderPanelChanged;
 
@@ -88,6 +90,14 @@ public:
     // Removes all tabs; the permanent lists forget what they have read.
     void clearWindow();
     void setStateString(const QString& text) override { stateField.setText(text); }
+    // The rates and the newest version, from the maker's server; what comes of it arrives as a notification.
+    void updateCurrencies(const Params& params) override { appDelegate.online().updateCurrencies(params); }
+    void checkUpdate() { appDelegate.online().checkUpdate(); }
+    void currenciesUpdated();
+    void readyForUpdate();
+    // Offers the download of the new version, with a box to leave this out from now on. One notice at a time.
+    void informUserAboutUpdate(bool show);
+    void checkUpdateManually() { informUserAboutUpdate(true); }
     void showHelp();
     void showAbout();
     void toggleLeftView();
@@ -142,9 +152,11 @@ private:
     void askToSave(int position, std::function<void()> goOn, std::function<void()> drop);
     void leaveUnlessDropped(std::function<void()> then, Dropped dropped);
     void notReleased();
+    void openDownloadPage();
 
     PeriodClosing m_period;
     bool m_leftViewCollapsed = false;
+    bool m_askingAboutUpdate = false;
     // The controllers behind openedView; none for a permanent view.
     std::vector<std::shared_ptr<ModelViewController>> m_openedControllers;
     // A form that asked for its tab to be taken away: it is still at work then.

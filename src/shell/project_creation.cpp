@@ -66,7 +66,7 @@ bool populateDeleteBasis(UserWrite& write, Connector& connector)
 bool populateProject(UserWrite& write, Connector& connector, int defaultCurrency)
 {
     Params params;
-    params.version = u"1.2"_s;
+    params.version = Params::programVersion.toString();
     params.defaultCurrency = defaultCurrency;
     const std::vector<MenuSeed> menu = mainMenuSeed();
     return insertRecord(write, connector, params) && populateCurrencies(write, connector) &&

@@ -40,7 +40,8 @@ constexpr std::array everythingChanged{
 AppDelegate::AppDelegate(Surroundings surroundings, std::unique_ptr<Connector> connectorToOwn)
     : connector(connectorToOwn ? *connectorToOwn : *(connectorToOwn = std::make_unique<Connector>())),
       clock(surroundings.clock), calendar(std::move(surroundings.calendar)), dialogs(surroundings.dialogs),
-      defaults(surroundings.defaults), m_connector(std::move(connectorToOwn))
+      defaults(surroundings.defaults), settings(QStringList{defaults.folder()} + systemSettingsFolders()),
+      m_connector(std::move(connectorToOwn))
 {
     // What was told before the failed commit is no longer true.
     connector.onCommitFailed = [this](const QString& what) {

@@ -6,8 +6,10 @@
 #include "store/connector.h"
 #include "store/defaults_store.h"
 #include "store/params.h"
+#include "store/settings_resource.h"
 
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #include <memory>
 
@@ -33,6 +35,10 @@ public:
     virtual void updateCurrencies(const Params&) {}
     // Asks for the newest version: HasNewVersionNotification when there is a newer one.
     virtual void checkUpdate() {}
+    // The reports of crashes that wait on this machine.
+    virtual QStringList crashReports() { return {}; }
+    // Sends them, and removes each that the server has taken. The user's consent is the caller's to have.
+    virtual void sendReports(const QStringList&) {}
 };
 
 // The application object: made in main (or in a test), passed by reference to everything that needs the
@@ -57,6 +63,7 @@ public:
     Calendar calendar;
     Dialogs& dialogs;
     DefaultsStore& defaults;
+    const SettingsResource settings;
 
     // Null stands for no window.
     void setWorkspace(Workspace* workspace) { m_workspace = workspace; }

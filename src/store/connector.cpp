@@ -62,6 +62,7 @@ struct Connector::Impl {
     QString openError;
     bool readOnly = false;
     bool lockedByOther = false;
+    qint64 opening = 0;
 };
 
 // ---- The file ----
@@ -83,6 +84,7 @@ bool Connector::Impl::adopt(OpenedDatabase opened, const QString& file, bool loo
     transaction.attach(database.get());
     path = file;
     readOnly = look;
+    ++opening;
     return true;
 }
 
@@ -235,6 +237,11 @@ QString Connector::path() const
 const QString& Connector::openError() const
 {
     return m_impl->openError;
+}
+
+qint64 Connector::opening() const
+{
+    return m_impl->opening;
 }
 
 bool Connector::isLockedByOther() const

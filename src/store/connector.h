@@ -47,6 +47,9 @@ public:
     bool isReadOnly() const;
     QString path() const;
     const QString& openError() const;
+    // Counts the openings, a new project's too: who waits for something knows by it whether the project that
+    // is open is still the one that was, also when the same file was opened again.
+    qint64 opening() const;
     // True when the last failed open was refused because another program holds the project.
     bool isLockedByOther() const;
 

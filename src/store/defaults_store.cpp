@@ -1,7 +1,12 @@
 #include "store/defaults_store.h"
 
+#include <QtCore/QFileInfo>
 #include <QtCore/QSettings>
 #include <QtCore/QStandardPaths>
+
+#include <algorithm>
+#include <array>
+#include <utility>
 
 namespace zelvor {
 
@@ -14,6 +19,25 @@ const QString nameKey = u"name"_s;
 const QString pathKey = u"path"_s;
 const QString defaultBusinessKey = u"defaultBusiness"_s;
 const QString showUpdateWindowKey = u"showUpdateWindow"_s;
+const QString crashReportsKey = u"crashReports"_s;
+
+constexpr std::array<std::pair<CrashReportConsent, QStringView>, 3> consentWords{
+    {{CrashReportConsent::Ask, u"ask"},
+     {CrashReportConsent::Always, u"always"},
+     {CrashReportConsent::Never, u"never"}}};
+
+// A word that nobody knows is no consent.
+CrashReportConsent consentFromWord(const QString& word)
+{
+    const auto* known = std::ranges::find(consentWords, word, [](const auto& entry) { return entry.second; });
+    return known == consentWords.end() ? CrashReportConsent::Ask : known->first;
+}
+
+QString consentWord(CrashReportConsent consent)
+{
+    return std::ranges::find(consentWords, consent, [](const auto& entry) { return entry.first; })
+        ->second.toString();
+}
 
 // Names and paths are values of numbered entries: as values they may hold any character, as keys they
 // may not.
@@ -58,6 +82,7 @@ public:
         if (settings.contains(defaultBusinessKey))
             defaultBusiness = settings.value(defaultBusinessKey).toString();
         showUpdateWindow = settings.value(showUpdateWindowKey, true).toBool();
+        crashReportConsent = consentFromWord(settings.value(crashReportsKey).toString());
     }
 
     const QString filePath;
@@ -65,10 +90,12 @@ public:
     QMap<QString, QString> businesses;
     std::optional<QString> defaultBusiness;
     bool showUpdateWindow = true;
+    CrashReportConsent crashReportConsent = CrashReportConsent::Ask;
     // Only what was set here is written: another program may have set the rest meanwhile.
     bool businessesSet = false;
     bool defaultBusinessSet = false;
     bool showUpdateWindowSet = false;
+    bool crashReportConsentSet = false;
 };
 
 DefaultsStore::DefaultsStore()
@@ -126,6 +153,24 @@ void DefaultsStore::setShowUpdateWindow(bool show)
     m_impl->showUpdateWindowSet = true;
 }
 
+CrashReportConsent DefaultsStore::crashReportConsent() const
+{
+    m_impl->load();
+    return m_impl->crashReportConsent;
+}
+
+void DefaultsStore::setCrashReportConsent(CrashReportConsent consent)
+{
+    m_impl->load();
+    m_impl->crashReportConsent = consent;
+    m_impl->crashReportConsentSet = true;
+}
+
+QString DefaultsStore::folder() const
+{
+    return QFileInfo(m_impl->filePath).absolutePath();
+}
+
 bool DefaultsStore::synchronize()
 {
     m_impl->load();
@@ -138,10 +183,13 @@ bool DefaultsStore::synchronize()
         settings.remove(defaultBusinessKey);
     if (m_impl->showUpdateWindowSet)
         settings.setValue(showUpdateWindowKey, m_impl->showUpdateWindow);
+    if (m_impl->crashReportConsentSet)
+        settings.setValue(crashReportsKey, consentWord(m_impl->crashReportConsent));
     settings.sync();
     if (settings.status() != QSettings::NoError)
         return false;
-    m_impl->businessesSet = m_impl->defaultBusinessSet = m_impl->showUpdateWindowSet = false;
+    m_impl->businessesSet = m_impl->defaultBusinessSet = false;
+    m_impl->showUpdateWindowSet = m_impl->crashReportConsentSet = false;
     return true;
 }
 

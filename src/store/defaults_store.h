@@ -8,6 +8,9 @@
 
 namespace zelvor {
 
+// Whether reports of crashes may be sent: the user is asked each time, or has answered for good.
+enum class CrashReportConsent { Ask, Always, Never };
+
 // The per-user settings, in the user's configuration folder (XDG: $XDG_CONFIG_HOME/Zelvor/Zelvor.conf). Read
 // on first use, written by synchronize(). Keys of `businesses` are project names with "_" for blanks.
 class DefaultsStore {
@@ -25,6 +28,10 @@ public:
     void removeDefaultBusiness();
     bool showUpdateWindow() const; // true unless set otherwise
     void setShowUpdateWindow(bool show);
+    CrashReportConsent crashReportConsent() const; // Ask unless set otherwise
+    void setCrashReportConsent(CrashReportConsent consent);
+    // Where the settings lie: "~/.config/Zelvor".
+    QString folder() const;
     // Writes to the disk; false when that failed.
     bool synchronize();
 

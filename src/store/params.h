@@ -7,7 +7,10 @@ namespace zelvor {
 // The one settings row of a project, id 1; read afresh whenever it is needed.
 class Params : public TableModel {
 public:
-    QString version = QStringLiteral("1.0"); // written, never compared; a new project writes "1.2"
+    // What a new project is marked with; also what the program is compared with when a newer one is offered.
+    static constexpr QStringView programVersion = u"1.2";
+
+    QString version = QStringLiteral("1.0"); // written, never compared; a new project writes programVersion
     bool showCurrentBalance = false;
     qint64 reportPeriod = 1;       // 1 month, 2 quarter, 3 year
     qint64 defaultCurrency = 0;    // raw value of a CurrencyStruct; 0: the project is not set up

@@ -56,10 +56,17 @@ TEST_F(RatesReply, anEmptyReplyStillStampsTheMoment)
 TEST_F(RatesReply, aRateThatIsNoFiniteNumberAboveZeroIsSkipped)
 {
     using Limits = std::numeric_limits<double>;
-    EXPECT_TRUE(apply(
-        {{1, 0.0}, {3, -1.0}, {4, Limits::quiet_NaN()}, {5, Limits::infinity()}, {6, 1e-9}, {7, 90.5}}));
-    for (const CurrencyStruct skipped : {CurrencyStruct::EUR, CurrencyStruct::GBP, CurrencyStruct::CHF,
-                                         CurrencyStruct::JPY, CurrencyStruct::CNY})
+    EXPECT_TRUE(apply({{1, 0.0},
+                       {3, -1.0},
+                       {4, Limits::quiet_NaN()},
+                       {5, Limits::infinity()},
+                       {6, 1e-9},
+                       {7, 90.5},
+                       {8, 1e14},
+                       {9, 1e300}}));
+    for (const CurrencyStruct skipped :
+         {CurrencyStruct::EUR, CurrencyStruct::GBP, CurrencyStruct::CHF, CurrencyStruct::JPY,
+          CurrencyStruct::CNY, CurrencyStruct::UAH, CurrencyStruct::PLN})
         EXPECT_EQ(rate(skipped), 1) << rawValue(skipped);
     EXPECT_EQ(rate(CurrencyStruct::RUB), 90.5);
 }

@@ -79,6 +79,38 @@ TEST(Defaults, anUnwritablePlaceIsReported)
     EXPECT_FALSE(store.synchronize());
 }
 
+TEST(Defaults, sendNoReportsUnlessTheUserSaidAlways)
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(u"Zelvor.conf"_s);
+    EXPECT_EQ(DefaultsStore(file).crashReportConsent(), CrashReportConsent::Ask);
+    for (const CrashReportConsent consent :
+         {CrashReportConsent::Always, CrashReportConsent::Never, CrashReportConsent::Ask}) {
+        DefaultsStore store(file);
+        store.setCrashReportConsent(consent);
+        ASSERT_TRUE(store.synchronize());
+        EXPECT_EQ(DefaultsStore(file).crashReportConsent(), consent);
+    }
+}
+
+TEST(Defaults, aWordThatIsNoAnswerIsNoConsent)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"Zelvor.conf"_s);
+    for (const char* word : {"", "yes", "true", "1", "Always", "always, never"}) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("[General]\ncrashReports=" + QByteArray(word) + '\n');
+        file.close();
+        EXPECT_EQ(DefaultsStore(path).crashReportConsent(), CrashReportConsent::Ask) << word;
+    }
+}
+
+TEST(Defaults, knowTheirFolder)
+{
+    EXPECT_EQ(DefaultsStore(u"/home/me/.config/Zelvor/Zelvor.conf"_s).folder(), u"/home/me/.config/Zelvor"_s);
+}
+
 TEST(Defaults, lieInTheUsersConfigurationFolder)
 {
     const QTemporaryDir folder;
