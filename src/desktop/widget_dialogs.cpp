@@ -21,6 +21,19 @@ namespace zelvor {
 
 namespace {
 
+// What it stands for holds from the tick on, whatever button is pressed then.
+void addCheckBox(QMessageBox& box, const AlertCheckBox& given)
+{
+    auto* const check = new QCheckBox(QString(given.title).replace(u'&', u"&&"_s), &box);
+    check->setObjectName(u"alertCheckBox"_s);
+    check->setChecked(given.on);
+    QObject::connect(check, &QCheckBox::toggled, &box, [onToggled = given.onToggled](bool on) {
+        if (onToggled)
+            onToggled(on);
+    });
+    box.setCheckBox(check);
+}
+
 // The buttons in their order, so that the first one is firstButton.
 std::vector<QAbstractButton*> fill(QMessageBox& box, const Alert& alert)
 {
@@ -41,19 +54,6 @@ std::vector<QAbstractButton*> fill(QMessageBox& box, const Alert& alert)
     box.setDefaultButton(qobject_cast<QPushButton*>(buttons.front()));
     box.setEscapeButton(buttons.back());
     return buttons;
-}
-
-// What it stands for holds from the tick on, whatever button is pressed then.
-void addCheckBox(QMessageBox& box, const AlertCheckBox& given)
-{
-    auto* const check = new QCheckBox(QString(given.title).replace(u'&', u"&&"_s), &box);
-    check->setObjectName(u"alertCheckBox"_s);
-    check->setChecked(given.on);
-    QObject::connect(check, &QCheckBox::toggled, &box, [onToggled = given.onToggled](bool on) {
-        if (onToggled)
-            onToggled(on);
-    });
-    box.setCheckBox(check);
 }
 
 QString startFolder()
