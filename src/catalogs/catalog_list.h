@@ -36,7 +36,7 @@ public:
 
     // The rows as they were last read, stale or not.
     const Records& loadedRecords() const { return m_records; }
-    // For the controller: the rows just read. The selection stays on its record.
+    // For the controller: the rows just read. The selection stays on its record, here as after sorting.
     void setRecords(Records records);
 
 protected:
@@ -151,11 +151,12 @@ QVariant CatalogListView<Record>::value(int row, const QString& identifier) cons
 template <class Record>
 void CatalogListView<Record>::sort(const QString& key, bool ascending)
 {
-    records();
+    Records sorted = records();
     if (const Less less = orderOf(key)) {
         std::ranges::stable_sort(
-            m_records, [&](const auto& a, const auto& b) { return ascending ? less(*a, *b) : less(*b, *a); });
+            sorted, [&](const auto& a, const auto& b) { return ascending ? less(*a, *b) : less(*b, *a); });
     }
+    setRecords(std::move(sorted));
     reloadData();
 }
 

@@ -270,6 +270,21 @@ TYPED_TEST(FlatCatalog, theSelectionStaysOnItsRecordWhenTheListIsReadAgain)
     EXPECT_EQ(this->controller.view.selectedRow(), 1);
 }
 
+TYPED_TEST(FlatCatalog, theSelectionStaysOnItsRecordWhenTheListIsSorted)
+{
+    for (const QString& name : {u"c"_s, u"a"_s, u"b"_s})
+        this->addFromPopover(name);
+    ASSERT_EQ(this->names(), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
+    this->controller.view.selectRow(0);
+    this->controller.view.sort(u"name"_s, false);
+    EXPECT_EQ(this->controller.view.selectedRow(), 2);
+    TypeParam::edit(this->controller);
+    EXPECT_EQ(TypeParam::name(this->controller).text(), u"a"_s);
+    this->controller.view.selectRow(-1);
+    this->controller.view.sort(u"name"_s, true);
+    EXPECT_EQ(this->controller.view.selectedRow(), -1);
+}
+
 TYPED_TEST(FlatCatalog, aRowOutsideTheListGivesTheEmptyText)
 {
     EXPECT_EQ(this->controller.view.value(0, u"name"_s), QVariant(QString()));

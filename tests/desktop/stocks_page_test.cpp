@@ -178,6 +178,20 @@ TEST_F(StocksPage, aClickOnTheHeadSorts)
     EXPECT_EQ(names(), u"Yard Shop Main Back"_s);
 }
 
+TEST_F(StocksPage, theHighlightStaysOnItsRowWhenAClickOnTheHeadSorts)
+{
+    openSampleList();
+    program.clickCell(list(), cell(u"Back"_s));
+    ASSERT_EQ(currentName(), u"Back"_s);
+    clickHeader(u"Name"_s);
+    ASSERT_EQ(names(), u"Shop Main Back"_s);
+    EXPECT_EQ(currentName(), u"Back"_s);
+    EXPECT_TRUE(list()->selectionModel()->isSelected(cell(u"Back"_s)));
+    press(Qt::Key_F2);
+    ASSERT_TRUE(isOpen(u"stockPopover"_s));
+    EXPECT_EQ(program.find<QLineEdit>(u"stockName"_s)->text(), u"Back"_s);
+}
+
 TEST_F(StocksPage, theSearchLooksIntoEveryColumn)
 {
     openSampleList();
