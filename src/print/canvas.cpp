@@ -34,6 +34,10 @@ Canvas::Canvas(QPainter& painter, const QRectF& slice, FontFaces& faces)
     preparePainter();
 }
 
+Canvas::Canvas(const Canvas& whole, const QRectF& slice)
+    : m_painter(whole.m_painter), m_slice(slice), m_faces(whole.m_faces), m_isPart(true)
+{}
+
 void Canvas::preparePainter()
 {
     m_painter.save();
@@ -44,7 +48,8 @@ void Canvas::preparePainter()
 
 Canvas::~Canvas()
 {
-    m_painter.restore();
+    if (!m_isPart)
+        m_painter.restore();
 }
 
 bool Canvas::shows(double bottom, double top) const
@@ -126,8 +131,8 @@ void Canvas::polyline(const std::vector<QPointF>& points, double lineWidth, cons
     for (const QPointF& point : points)
         line.append(onPainter(point));
     m_painter.save();
-    m_painter.setClipRect(QRectF(onPainter(within.bottomLeft()), within.size()), Qt::IntersectClip);
-    m_painter.setPen(QPen(toQColor(color), lineWidth, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
+    m_painter.setClipRect(onPainter(within), Qt::IntersectClip);
+    m_painter.setPen(QPen(toQColor(color), lineWidth * units, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
     m_painter.drawPolyline(line);
     m_painter.restore();
 }
@@ -137,15 +142,16 @@ void Canvas::wedge(const QPointF& centre, double radius, double startAngle, doub
     if (!shows(centre.y() - radius, centre.y() + radius))
         return;
     const QPointF middle = onPainter(centre);
+    const QPointF reach = QPointF(radius, radius) * units;
     QPainterPath path(middle);
-    path.arcTo(QRectF(middle.x() - radius, middle.y() - radius, 2 * radius, 2 * radius), startAngle, angle);
+    path.arcTo(QRectF(middle - reach, middle + reach), startAngle, angle);
     path.closeSubpath();
     m_painter.fillPath(path, toQColor(color));
 }
 
 Canvas Canvas::movedTo(const QPointF& origin) const
 {
-    return Canvas(m_painter, m_slice.translated(-origin));
+    return Canvas(*this, m_slice.translated(-origin));
 }
 
 QFont printFont(double size, bool bold, bool oblique)

@@ -58,10 +58,11 @@ public:
                   const QRectF& within);
     // The part of a disc between two angles: degrees, counter-clockwise from the right.
     void wedge(const QPointF& centre, double radius, double startAngle, double angle, const Color& color);
-    // The same sheet, seen with its origin at that point of this one.
+    // The same sheet, seen with its origin at that point of this one, which outlives it.
     Canvas movedTo(const QPointF& origin) const;
 
 private:
+    Canvas(const Canvas& whole, const QRectF& slice);
     void preparePainter();
     Path::Line visiblePart(Path::Line line, const Path& path) const;
     QPointF onPainter(const QPointF& point) const;
@@ -71,6 +72,7 @@ private:
     QRectF m_slice;
     std::unique_ptr<FontFaces> m_ownFaces;
     FontFaces& m_faces;
+    bool m_isPart = false; // the painter was prepared by the canvas that this one is a part of
 };
 
 // The font that stands for "Helvetica": the same widths, found on every machine that the program is

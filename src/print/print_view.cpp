@@ -71,7 +71,7 @@ QStringList PrintView::splitRow(const QString& text, double width) const
 
 QString PrintView::numberText(const Decimal& value)
 {
-    return exportNumberText(value);
+    return exportNumberText(value, QLocale());
 }
 
 QString PrintView::dateText(qint64 moment) const

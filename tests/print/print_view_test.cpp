@@ -337,6 +337,30 @@ TEST_F(PrintFrame, aDashedLineHasItsPattern)
     EXPECT_EQ(page.pixelColor(36 + 25, 842 - 45 - 700), Qt::black);
 }
 
+TEST_F(PrintFrame, aMovedOriginMovesAllThatIsDrawnAndTheSheetStaysUsable)
+{
+    form.draw = [&](Canvas& canvas) {
+        {
+            Canvas moved = canvas.movedTo({100, 200});
+            moved.fill({0, 0, 10, 10}, blackColor);
+            moved.wedge({50, 50}, 20, 0, 180, blackColor);
+            moved.polyline({{0, 100}, {100, 100}}, 4, blackColor, {0, 90, 50, 20});
+        }
+        canvas.fill({0, 0, 10, 10}, blackColor);
+    };
+    const QImage page = pictures(form, 72).front();
+    const auto shade = [&](int x, int y) { return page.pixelColor(36 + x, 842 - 45 - y); };
+    EXPECT_EQ(shade(105, 205), Qt::black);
+    EXPECT_EQ(shade(115, 205), Qt::white);
+    EXPECT_EQ(shade(150, 265), Qt::black); // the upper half of the disc
+    EXPECT_EQ(shade(150, 240), Qt::white);
+    EXPECT_EQ(shade(150, 275), Qt::white);
+    EXPECT_EQ(shade(110, 301), Qt::black);
+    EXPECT_EQ(shade(110, 304), Qt::white);
+    EXPECT_EQ(shade(155, 300), Qt::white); // outside of what the line may show
+    EXPECT_EQ(shade(5, 5), Qt::black);
+}
+
 TEST_F(PrintFrame, aRecordedPictureKeepsTheTexts)
 {
     QPicture picture;
