@@ -28,12 +28,20 @@
         <translation> Резерв: </translation>
     </message>
     <message>
+        <source> To:</source>
+        <translation> По:</translation>
+    </message>
+    <message>
         <source> To: </source>
         <translation> По: </translation>
     </message>
     <message>
         <source> is not found at specified path. Do you wish to delete useless line?</source>
         <translation> не найден по указанному пути. Удалить ненужную строку?</translation>
+    </message>
+    <message>
+        <source> on date: </source>
+        <translation> на дату: </translation>
     </message>
     <message>
         <source>%1 has no settings: it is no project, or it is damaged.</source>
@@ -134,6 +142,10 @@
     <message>
         <source>Account number</source>
         <translation>Номер счёта</translation>
+    </message>
+    <message>
+        <source>Account: </source>
+        <translation>Счёт: </translation>
     </message>
     <message>
         <source>Accounts</source>
@@ -352,6 +364,10 @@
         <translation>Баланс на</translation>
     </message>
     <message>
+        <source>Balance on date: </source>
+        <translation>Баланс на дату: </translation>
+    </message>
+    <message>
         <source>Bank</source>
         <translation>Банк</translation>
     </message>
@@ -560,6 +576,10 @@
         <translation>Сайт компании</translation>
     </message>
     <message>
+        <source>Conf.</source>
+        <translation>Пров.</translation>
+    </message>
+    <message>
         <source>Confirm</source>
         <translation>Провести</translation>
     </message>
@@ -612,6 +632,10 @@
         <translation>Отчёт по контрагентам</translation>
     </message>
     <message>
+        <source>Counterparties: </source>
+        <translation>Контрагенты: </translation>
+    </message>
+    <message>
         <source>Counterparty</source>
         <translation>Контрагент</translation>
     </message>
@@ -662,6 +686,10 @@
     <message>
         <source>Counterparty VAT Number</source>
         <translation>ИНН контрагента</translation>
+    </message>
+    <message>
+        <source>Counterparty: </source>
+        <translation>Контрагент: </translation>
     </message>
     <message>
         <source>Create</source>
@@ -720,6 +748,10 @@
         <translation>Дней отсрочки</translation>
     </message>
     <message>
+        <source>Debet</source>
+        <translation>Дебет</translation>
+    </message>
+    <message>
         <source>Debit</source>
         <translation>Дебет</translation>
     </message>
@@ -768,6 +800,10 @@
         <translation>Удалить этот документ?</translation>
     </message>
     <message>
+        <source>Depreciating</source>
+        <translation>Амортизация</translation>
+    </message>
+    <message>
         <source>Description</source>
         <translation>Описание</translation>
     </message>
@@ -790,6 +826,14 @@
     <message>
         <source>Do you want to save the changes to the document?</source>
         <translation>Сохранить изменения в документе?</translation>
+    </message>
+    <message>
+        <source>Doc Date</source>
+        <translation>Дата док.</translation>
+    </message>
+    <message>
+        <source>Doc Sum</source>
+        <translation>Сумма док.</translation>
     </message>
     <message>
         <source>Document</source>
@@ -911,6 +955,10 @@
     <message>
         <source>Employee Report</source>
         <translation>Отчёт по сотруднику</translation>
+    </message>
+    <message>
+        <source>Employee: </source>
+        <translation>Сотрудник: </translation>
     </message>
     <message>
         <source>Employees</source>
@@ -1043,6 +1091,10 @@
         <translation>Найти всё   Ctrl+K</translation>
     </message>
     <message>
+        <source>Finish Saldo</source>
+        <translation>Сальдо кон.</translation>
+    </message>
+    <message>
         <source>Fixed Asset</source>
         <translation>Основное средство</translation>
     </message>
@@ -1057,6 +1109,10 @@
     <message>
         <source>Fixed Assets List</source>
         <translation>Список основных средств</translation>
+    </message>
+    <message>
+        <source>Fixed Assets Total: </source>
+        <translation>Основные средства, всего: </translation>
     </message>
     <message>
         <source>Flag</source>
@@ -1216,6 +1272,10 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
     <message>
         <source>Light</source>
         <translation>Светлое</translation>
+    </message>
+    <message>
+        <source>List of Units</source>
+        <translation>Список единиц измерения</translation>
     </message>
     <message>
         <source>Lock of the Balance</source>
@@ -1517,6 +1577,10 @@ or Open Existing… for a project file that you have.</source>
         <translation>Вставить</translation>
     </message>
     <message>
+        <source>Pay To</source>
+        <translation>Оплатить до</translation>
+    </message>
+    <message>
         <source>Pay Within, Days</source>
         <translation>Отсрочка, дней</translation>
     </message>
@@ -1535,6 +1599,10 @@ or Open Existing… for a project file that you have.</source>
     <message>
         <source>Payment Calendar</source>
         <translation>Платёжный календарь</translation>
+    </message>
+    <message>
+        <source>Payment Calendar on date: </source>
+        <translation>Платёжный календарь на дату: </translation>
     </message>
     <message>
         <source>Payment from Counterparty</source>
@@ -1563,6 +1631,10 @@ or Open Existing… for a project file that you have.</source>
     <message>
         <source>Period</source>
         <translation>Срок</translation>
+    </message>
+    <message>
+        <source>Period From: </source>
+        <translation>Период с: </translation>
     </message>
     <message>
         <source>Phone</source>
@@ -1809,6 +1881,14 @@ or Open Existing… for a project file that you have.</source>
         <translation>Отчёт по</translation>
     </message>
     <message>
+        <source>Report by Account</source>
+        <translation>Отчёт по счёту</translation>
+    </message>
+    <message>
+        <source>Report by Employee</source>
+        <translation>Отчёт по сотруднику</translation>
+    </message>
+    <message>
         <source>Report by Selling For Period.</source>
         <translation>Отчёт по продажам за период.</translation>
     </message>
@@ -1823,6 +1903,10 @@ or Open Existing… for a project file that you have.</source>
     <message>
         <source>Reserve</source>
         <translation>Резерв</translation>
+    </message>
+    <message>
+        <source>Residual Value</source>
+        <translation>Остат. стоим.</translation>
     </message>
     <message>
         <source>Responsible</source>
@@ -1963,6 +2047,10 @@ or Open Existing… for a project file that you have.</source>
     <message>
         <source>Spendings Report</source>
         <translation>Отчёт по расходам</translation>
+    </message>
+    <message>
+        <source>Start Saldo</source>
+        <translation>Сальдо нач.</translation>
     </message>
     <message>
         <source>Start at the first day of the report period</source>
@@ -2330,12 +2418,20 @@ or Open Existing… for a project file that you have.</source>
         <translation>НДС, %</translation>
     </message>
     <message>
+        <source>Variable</source>
+        <translation>Переменные</translation>
+    </message>
+    <message>
         <source>Version %1</source>
         <translation>Версия %1</translation>
     </message>
     <message>
         <source>View</source>
         <translation>Вид</translation>
+    </message>
+    <message>
+        <source>Wait For Us</source>
+        <translation>Ждут от нас</translation>
     </message>
     <message>
         <source>Warehouse Address</source>
@@ -2356,6 +2452,10 @@ or Open Existing… for a project file that you have.</source>
     <message>
         <source>Warehouses List</source>
         <translation>Список складов</translation>
+    </message>
+    <message>
+        <source>We Wait</source>
+        <translation>Ждём мы</translation>
     </message>
     <message>
         <source>We have not '</source>

@@ -44,6 +44,12 @@ PropertyJournalView::PropertyJournalView(PropertyJournalViewController& owner)
     : CatalogListView<Property>(owner, localized("Fixed Assets List")), m_controller(owner)
 {}
 
+Decimal PropertyJournalView::currentCost() const
+{
+    m_controller.refresh();
+    return m_controller.currentCost.value();
+}
+
 std::vector<ViewColumn> PropertyJournalView::columns() const
 {
     return {

@@ -13,6 +13,8 @@ public:
     explicit PropertyJournalView(PropertyJournalViewController& owner);
 
     const Records& properties() const { return records(); }
+    // Of all listed assets, as the journal shows it.
+    Decimal currentCost() const;
     std::vector<ViewColumn> columns() const override;
     bool setValue(int row, const QString& identifier, const QVariant& value) override;
     bool canExportToExcel() const override { return true; }

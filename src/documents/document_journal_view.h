@@ -19,6 +19,14 @@ public:
 
     // The documents in the order shown, as they were read last.
     std::vector<std::shared_ptr<DocumentModel>> documents;
+    // The dates that they were read for; seconds since 1970 UTC.
+    qint64 start() const { return m_start; }
+    qint64 finish() const { return m_finish; }
+    void setPeriod(qint64 start, qint64 finish)
+    {
+        m_start = start;
+        m_finish = finish;
+    }
 
     bool canExportToExcel() const override { return true; }
     std::vector<ViewColumn> columns() const override;
@@ -37,6 +45,8 @@ private:
     QString journalName(const DocumentModel& document) const;
 
     DocumentJournalViewController& m_controller;
+    qint64 m_start = 0;
+    qint64 m_finish = 0;
     mutable std::array<QString, docTypeCount> m_titleStarts; // by raw value, as they are needed
 };
 

@@ -140,6 +140,7 @@ void DocumentJournalViewController::prepareJournal()
     deleteDocumentMenuItem.setEnabled(false);
     const int row = mainView.selectedRow();
     const auto before = std::exchange(mainView.documents, {});
+    mainView.setPeriod(dateFrom.moment(), dateTo.moment());
     readSelected();
     std::ranges::stable_sort(mainView.documents, isEarlier);
     const bool hadSelection = row >= 0 && static_cast<std::size_t>(row) < before.size();

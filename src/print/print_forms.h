@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/view.h"
 #include "print/print_view.h"
 
 namespace zelvor {

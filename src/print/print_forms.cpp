@@ -1,0 +1,93 @@
+#include "print/print_forms.h"
+
+#include "catalogs/measurement_view.h"
+#include "catalogs/property_journal_view.h"
+#include "documents/document_journal_view.h"
+#include "period/balance_view.h"
+#include "print/print_balance.h"
+#include "print/print_fixed_assets.h"
+#include "print/print_journal.h"
+#include "print/print_measurement.h"
+#include "print/print_period_sell.h"
+#include "reports/period_sell_report_view.h"
+
+namespace zelvor {
+
+namespace {
+
+template <class View>
+void takePeriod(TableForm& form, const View& view)
+{
+    form.start = view.start();
+    form.finish = view.finish();
+}
+
+std::unique_ptr<TableForm> formOf(const PeriodSellReportView& view, AppDelegate& appDelegate)
+{
+    auto form = std::make_unique<PrintPeriodSell>(appDelegate);
+    takePeriod(*form, view);
+    form->reportBy = view.reportBy();
+    form->groupedBy = view.groupedBy();
+    return form;
+}
+
+std::unique_ptr<TableForm> formOf(const DocumentJournalView& view, AppDelegate& appDelegate)
+{
+    auto form = std::make_unique<PrintJournal>(appDelegate);
+    takePeriod(*form, view);
+    return form;
+}
+
+std::unique_ptr<TableForm> formOf(const BalanceView&, AppDelegate& appDelegate)
+{
+    auto form = std::make_unique<PrintBalance>(appDelegate);
+    form->date = appDelegate.now();
+    return form;
+}
+
+std::unique_ptr<TableForm> formOf(const PropertyJournalView& view, AppDelegate& appDelegate)
+{
+    auto form = std::make_unique<PrintFixedAssets>(appDelegate);
+    form->date = appDelegate.now();
+    form->total = view.currentCost();
+    return form;
+}
+
+std::unique_ptr<TableForm> formOf(const MeasurementView&, AppDelegate& appDelegate)
+{
+    return std::make_unique<PrintMeasurement>(appDelegate);
+}
+
+template <class View>
+std::unique_ptr<PrintView> filledForm(const BaseView& view, AppDelegate& appDelegate)
+{
+    const auto* report = dynamic_cast<const View*>(&view);
+    if (!report)
+        return nullptr;
+    static_cast<void>(report->numberOfRows()); // reads what is out of date, the period with it
+    std::unique_ptr<TableForm> form = formOf(*report, appDelegate);
+    if (form)
+        form->insertRows(*report);
+    return form;
+}
+
+template <class... Views>
+std::unique_ptr<PrintView> formAmong(const BaseView& view, AppDelegate& appDelegate)
+{
+    std::unique_ptr<PrintView> form;
+    static_cast<void>(((form = filledForm<Views>(view, appDelegate)) || ...));
+    return form;
+}
+
+} // namespace
+
+std::unique_ptr<PrintView> makePrintForm(const BaseView& view, AppDelegate& appDelegate)
+{
+    std::unique_ptr<PrintView> form = formAmong<PeriodSellReportView, DocumentJournalView, BalanceView,
+                                                PropertyJournalView, MeasurementView>(view, appDelegate);
+    if (form)
+        form->setData();
+    return form;
+}
+
+} // namespace zelvor
