@@ -33,6 +33,8 @@ struct Report {
 extern const Report balanceReport;
 extern const Report periodSellReport;
 extern const Report journalReport;
+extern const Report expendsReport;
+extern const Report dynamicsReport;
 
 std::span<const Report* const> reports();
 

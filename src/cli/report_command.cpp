@@ -17,6 +17,8 @@ std::span<const Report* const> reports()
         &balanceReport,
         &periodSellReport,
         &journalReport,
+        &expendsReport,
+        &dynamicsReport,
     };
     // clang-format on
     return all;

@@ -49,6 +49,11 @@ QString amountText(double value)
     return amountText(Decimal::fromDouble(value, moneyHandler));
 }
 
+QString wholeNumberText(const Decimal& value)
+{
+    return value.isNaN() ? value.toText() : grouped(value.toFixedText(0));
+}
+
 QString exportNumberText(const Decimal& value, int maximumDigits)
 {
     if (value.isNaN())

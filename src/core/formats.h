@@ -11,6 +11,8 @@ namespace zelvor {
 // "### ##0.00" and "-### ##0.00": groups of three parted by a blank, two digits, NaN as "NaN".
 QString amountText(const Decimal& value);
 QString amountText(double value);
+// The nearest whole number, in groups of three parted by a blank: "12 000".
+QString wholeNumberText(const Decimal& value);
 // Groups of three parted by a blank, at least two and at most `maximumDigits` digits behind the point.
 QString exportNumberText(const Decimal& value, int maximumDigits = 2);
 // The same with two digits behind the locale's decimal separator.

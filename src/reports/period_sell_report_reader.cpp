@@ -1,8 +1,11 @@
 #include "reports/period_sell_report_reader.h"
 
-#include "core/doc_type.h"
 #include "core/localized.h"
+<<<<<<< HEAD
 #include "reports/id_filter.h"
+=======
+#include "reports/sale_rows.h"
+>>>>>>> 4f5819e (Reports of spendings and dynamics, the data of their chart and graph, and the painters of both)
 #include "reports/sold_sums.h"
 
 #include <algorithm>
@@ -106,76 +109,18 @@ private:
 
 using TakeSale = std::function<void(qint64 contragentID, const SoldRow&)>;
 
-SoldRow soldRow(const Statement& row)
-{
-    return {row.integer(1), {row.real(2), row.real(3), row.real(4)}};
-}
-
-// A short period: the documents come by their date and the rows by their document (hence the CROSS JOIN,
-// which keeps that order), so only the period's own rows are touched.
-bool scanByDocument(Connector& connector, const PeriodSellReportQuery& query, const TakeSale& take)
-{
-    return connector.scan(
-        "SELECT d.contragent_id, r.product_id, r.amount, r.base_cost_sum, r.price_cost_sum"
-        " FROM product_doc AS d CROSS JOIN product_doc_row AS r ON r.doc_id=d.id"
-        " WHERE d.date>? AND d.date<? AND (d.doc_type_id=? OR d.doc_type_id=?) AND d.is_confirmed=1",
-        {query.dateFrom, query.dateTo, DocType::SellIntangibles, DocType::SellProduct},
-        [&take](const Statement& row) { take(row.integer(0), soldRow(row)); });
-}
-
-// A long one: the period's documents in a field by their ids, then all rows once as they lie in the file.
-bool scanAllRows(Connector& connector, const PeriodSellReportQuery& query, qint64 lastID,
-                 const TakeSale& take)
-{
-    std::vector<bool> isSale(static_cast<std::size_t>(lastID) + 1);
-    std::vector<qint64> contragentIDs(isSale.size());
-    const bool read = connector.scan(
-        "SELECT id, contragent_id FROM product_doc"
-        " WHERE date>? AND date<? AND (doc_type_id=? OR doc_type_id=?) AND is_confirmed=1 AND id>0",
-        {query.dateFrom, query.dateTo, DocType::SellIntangibles, DocType::SellProduct},
-        [&](const Statement& head) {
-            const auto place = static_cast<quint64>(head.integer(0));
-            if (place >= isSale.size()) // a damaged file only
-                return;
-            isSale[place] = true;
-            contragentIDs[place] = head.integer(1);
-        });
-    return read &&
-           connector.scan(
-               "SELECT doc_id, product_id, amount, base_cost_sum, price_cost_sum FROM product_doc_row", {},
-               [&](const Statement& row) {
-                   const auto place = static_cast<quint64>(row.integer(0));
-                   if (place < isSale.size() && isSale[place])
-                       take(contragentIDs[place], soldRow(row));
-               });
-}
-
-// Looking rows up by their document costs about eight times as much a row as reading them on the way.
-constexpr qint64 lookUpsPerRead = 8;
-
 // Walks the rows of the confirmed sales of the period that the product filter lets through, in no order.
 // False when the read failed.
 bool scanSales(Connector& connector, const PeriodSellReportQuery& query, const TakeSale& take)
 {
-    qint64 heads = 0;
-    qint64 lastID = 0;
-    const bool counted = connector.scan(
-        "SELECT count(date), (SELECT max(id) FROM product_doc) FROM product_doc WHERE date>? AND date<?",
-        {query.dateFrom, query.dateTo}, [&](const Statement& row) {
-            heads = row.integer(0);
-            lastID = row.integer(1);
-        });
-    if (!counted)
-        return false;
     const IDFilter products(query.productIDs);
-    const TakeSale takePassing = [&](qint64 contragentID, const SoldRow& row) {
-        if (products.passes(row.productID))
-            take(contragentID, row);
-    };
-    // Divided, since the ids of a strange file may be as large as they come.
-    return lastID / lookUpsPerRead <= heads && lastID >= 0
-               ? scanAllRows(connector, query, lastID, takePassing)
-               : scanByDocument(connector, query, takePassing);
+    return scanSaleRows(connector, {query.dateFrom, query.dateTo}, "contragent_id",
+                        "product_id, amount, base_cost_sum, price_cost_sum",
+                        [&](qint64 contragentID, const Statement& row) {
+                            const qint64 productID = row.integer(1);
+                            if (products.passes(productID))
+                                take(contragentID, {productID, {row.real(2), row.real(3), row.real(4)}});
+                        });
 }
 
 // The sales of a period, kept apart by a holder: a counterparty, or an employee with all of theirs.
