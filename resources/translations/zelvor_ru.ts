@@ -1216,6 +1216,10 @@
         <translation>IBAN</translation>
     </message>
     <message>
+        <source>Income</source>
+        <translation>Доходы</translation>
+    </message>
+    <message>
         <source>Intangible</source>
         <translation>Услуга</translation>
     </message>
@@ -1312,6 +1316,10 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
     <message>
         <source>Managers without customers</source>
         <translation>Менеджеры без покупателей</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Маржа</translation>
     </message>
     <message>
         <source>Menu</source>
@@ -1885,8 +1893,16 @@ or Open Existing… for a project file that you have.</source>
         <translation>Отчёт по счёту</translation>
     </message>
     <message>
+        <source>Report by All Spendings.</source>
+        <translation>Отчёт по всем расходам.</translation>
+    </message>
+    <message>
         <source>Report by Employee</source>
         <translation>Отчёт по сотруднику</translation>
+    </message>
+    <message>
+        <source>Report by Selected Spendings.</source>
+        <translation>Отчёт по выбранным расходам.</translation>
     </message>
     <message>
         <source>Report by Selling For Period.</source>
@@ -2087,6 +2103,10 @@ or Open Existing… for a project file that you have.</source>
     <message>
         <source>TOTAL</source>
         <translation>ИТОГО</translation>
+    </message>
+    <message>
+        <source>TOTAL FOR PERIOD:</source>
+        <translation>ИТОГО ЗА ПЕРИОД:</translation>
     </message>
     <message>
         <source>TOTAL:</source>
@@ -2419,7 +2439,7 @@ or Open Existing… for a project file that you have.</source>
     </message>
     <message>
         <source>Variable</source>
-        <translation>Переменные</translation>
+        <translation>Переменный</translation>
     </message>
     <message>
         <source>Version %1</source>
@@ -2536,6 +2556,10 @@ or Open Existing… for a project file that you have.</source>
         <translation>в него пишет другая программа</translation>
     </message>
     <message>
+        <source>const: </source>
+        <translation>пост.: </translation>
+    </message>
+    <message>
         <source>customers</source>
         <translation>покупателям</translation>
     </message>
@@ -2634,6 +2658,10 @@ or Open Existing… for a project file that you have.</source>
     <message>
         <source>there is no such folder</source>
         <translation>такой папки нет</translation>
+    </message>
+    <message>
+        <source>var: </source>
+        <translation>перем.: </translation>
     </message>
     <message>
         <source>yes</source>

@@ -1,11 +1,8 @@
 #include "reports/period_sell_report_reader.h"
 
 #include "core/localized.h"
-<<<<<<< HEAD
 #include "reports/id_filter.h"
-=======
 #include "reports/sale_rows.h"
->>>>>>> 4f5819e (Reports of spendings and dynamics, the data of their chart and graph, and the painters of both)
 #include "reports/sold_sums.h"
 
 #include <algorithm>
