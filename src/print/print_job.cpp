@@ -35,7 +35,10 @@ float heightOfPage(const QPageLayout& layout)
 // One page of the form. The painter's origin is the paper's corner.
 void drawPage(PrintView& form, QPainter& painter, int page, float pageHeight, double unitsPerPoint)
 {
-    const QRectF slice = form.rectForPage(page, pageHeight);
+    // A sheet ends at its bottom, also in the middle of a page: what a form draws below is cut off.
+    const QRectF slice = form.rectForPage(page, pageHeight) & QRectF({0, 0}, form.frame());
+    if (slice.isEmpty())
+        return;
     painter.save();
     painter.scale(unitsPerPoint, unitsPerPoint);
     painter.translate(margins.left(), margins.top());
