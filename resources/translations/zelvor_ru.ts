@@ -44,6 +44,10 @@
         <translation> на дату: </translation>
     </message>
     <message>
+        <source>#</source>
+        <translation>№</translation>
+    </message>
+    <message>
         <source>%1 has no settings: it is no project, or it is damaged.</source>
         <translation>%1 не содержит настроек: это не проект, или он повреждён.</translation>
     </message>
@@ -82,6 +86,10 @@
         <translation>(не включая)</translation>
     </message>
     <message>
+        <source>, e-mail: </source>
+        <translation>, e-mail: </translation>
+    </message>
+    <message>
         <source>A deleted document cannot be brought back.</source>
         <translation>Удалённый документ вернуть нельзя.</translation>
     </message>
@@ -118,6 +126,14 @@
     <message>
         <source>Account From</source>
         <translation>Со счёта</translation>
+    </message>
+    <message>
+        <source>Account Name:</source>
+        <translation>Получатель:</translation>
+    </message>
+    <message>
+        <source>Account No.:</source>
+        <translation>Счёт №:</translation>
     </message>
     <message>
         <source>Account Report</source>
@@ -260,6 +276,10 @@
         <translation>Адрес</translation>
     </message>
     <message>
+        <source>Address:</source>
+        <translation>Адрес:</translation>
+    </message>
+    <message>
         <source>All</source>
         <translation>Все</translation>
     </message>
@@ -348,6 +368,10 @@
         <translation>БАЛАНС:</translation>
     </message>
     <message>
+        <source>BILL TO:</source>
+        <translation>КОМУ:</translation>
+    </message>
+    <message>
         <source>Balance</source>
         <translation>Баланс</translation>
     </message>
@@ -378,6 +402,10 @@
     <message>
         <source>Bank name</source>
         <translation>Название банка</translation>
+    </message>
+    <message>
+        <source>Bank:</source>
+        <translation>Банк:</translation>
     </message>
     <message>
         <source>Base Cost</source>
@@ -736,6 +764,14 @@
         <translation>Чешская крона</translation>
     </message>
     <message>
+        <source>DATE:</source>
+        <translation>ДАТА:</translation>
+    </message>
+    <message>
+        <source>DUE BY:</source>
+        <translation>СРОК:</translation>
+    </message>
+    <message>
         <source>Dark</source>
         <translation>Тёмное</translation>
     </message>
@@ -806,6 +842,10 @@
     <message>
         <source>Description</source>
         <translation>Описание</translation>
+    </message>
+    <message>
+        <source>Direct Bank Transfer</source>
+        <translation>Банковский перевод</translation>
     </message>
     <message>
         <source>Discount</source>
@@ -1216,6 +1256,22 @@
         <translation>IBAN</translation>
     </message>
     <message>
+        <source>IBAN:</source>
+        <translation>IBAN:</translation>
+    </message>
+    <message>
+        <source>INVOICE</source>
+        <translation>СЧЁТ</translation>
+    </message>
+    <message>
+        <source>INVOICE #</source>
+        <translation>СЧЁТ №</translation>
+    </message>
+    <message>
+        <source>If you have any questions concerning this invoice, phone: </source>
+        <translation>Вопросы по счёту: телефон </translation>
+    </message>
+    <message>
         <source>Income</source>
         <translation>Доходы</translation>
     </message>
@@ -1304,6 +1360,10 @@ IMPORTANT! After this procedure you can not confirm any document with date from 
     <message>
         <source>Longest deferment, days</source>
         <translation>Наибольшая отсрочка, дней</translation>
+    </message>
+    <message>
+        <source>Make all checks payable to </source>
+        <translation>Получатель платежа: </translation>
     </message>
     <message>
         <source>Manager</source>
@@ -1941,8 +2001,20 @@ or Open Existing… for a project file that you have.</source>
         <translation>Российский рубль</translation>
     </message>
     <message>
+        <source>SHIPPING</source>
+        <translation>ДОСТАВКА</translation>
+    </message>
+    <message>
+        <source>SUBTOTAL</source>
+        <translation>СУММА</translation>
+    </message>
+    <message>
         <source>SWIFT</source>
         <translation>SWIFT</translation>
+    </message>
+    <message>
+        <source>SWIFT:</source>
+        <translation>SWIFT:</translation>
     </message>
     <message>
         <source>Salary</source>
@@ -2101,6 +2173,10 @@ or Open Existing… for a project file that you have.</source>
         <translation>Налог сверх цены</translation>
     </message>
     <message>
+        <source>THANK YOU FOR YOUR BUSINESS!</source>
+        <translation>СПАСИБО ЗА СОТРУДНИЧЕСТВО!</translation>
+    </message>
+    <message>
         <source>TOTAL</source>
         <translation>ИТОГО</translation>
     </message>
@@ -2235,6 +2311,10 @@ or Open Existing… for a project file that you have.</source>
 </source>
         <translation>Основное средство уже продано или списано.
 </translation>
+    </message>
+    <message>
+        <source>The invoice is longer than its sheet: what stands below the edge is not printed.</source>
+        <translation>Счёт не умещается на листе: то, что ниже края, не напечатано.</translation>
     </message>
     <message>
         <source>The language changes at the next start.</source>
@@ -2416,6 +2496,10 @@ or Open Existing… for a project file that you have.</source>
     <message>
         <source>VAT Amount</source>
         <translation>Сумма НДС</translation>
+    </message>
+    <message>
+        <source>VAT No.</source>
+        <translation>ИНН</translation>
     </message>
     <message>
         <source>VAT Number</source>
@@ -2616,6 +2700,10 @@ or Open Existing… for a project file that you have.</source>
         <translation>не удалось записать его файл блокировки</translation>
     </message>
     <message>
+        <source>mail:</source>
+        <translation>почта:</translation>
+    </message>
+    <message>
         <source>managers</source>
         <translation>менеджерам</translation>
     </message>
@@ -2630,6 +2718,10 @@ or Open Existing… for a project file that you have.</source>
     <message>
         <source>nothing can be written in its folder</source>
         <translation>в его папку нельзя писать</translation>
+    </message>
+    <message>
+        <source>phone:</source>
+        <translation>тел.:</translation>
     </message>
     <message>
         <source>products</source>
@@ -2662,6 +2754,10 @@ or Open Existing… for a project file that you have.</source>
     <message>
         <source>var: </source>
         <translation>перем.: </translation>
+    </message>
+    <message>
+        <source>web:</source>
+        <translation>сайт:</translation>
     </message>
     <message>
         <source>yes</source>
