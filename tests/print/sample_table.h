@@ -15,6 +15,11 @@ public:
     using Cells = QHash<QString, QVariant>;
 
     SampleTable() : TableView(QStringLiteral("Sample"), blackColor) {}
+    // One row, of that name.
+    explicit SampleTable(const QString& rowName) : SampleTable()
+    {
+        append({{QStringLiteral("name"), rowName}});
+    }
 
     void append(Cells cells, bool isGathering = false) { m_lines.push_back({std::move(cells), isGathering}); }
 
