@@ -5,10 +5,12 @@
 #include "documents/document_journal_view.h"
 #include "period/balance_view.h"
 #include "print/print_balance.h"
+#include "print/print_expense.h"
 #include "print/print_fixed_assets.h"
 #include "print/print_journal.h"
 #include "print/print_measurement.h"
 #include "print/print_period_sell.h"
+#include "reports/expend_report_view.h"
 #include "reports/period_sell_report_view.h"
 
 namespace zelvor {
@@ -28,6 +30,13 @@ std::unique_ptr<TableForm> formOf(const PeriodSellReportView& view, AppDelegate&
     takePeriod(*form, view);
     form->reportBy = view.reportBy();
     form->groupedBy = view.groupedBy();
+    return form;
+}
+
+std::unique_ptr<TableForm> formOf(const ExpendReportView& view, AppDelegate& appDelegate)
+{
+    auto form = std::make_unique<PrintExpense>(appDelegate);
+    takePeriod(*form, view);
     return form;
 }
 
@@ -83,8 +92,9 @@ std::unique_ptr<PrintView> formAmong(const BaseView& view, AppDelegate& appDeleg
 
 std::unique_ptr<PrintView> makePrintForm(const BaseView& view, AppDelegate& appDelegate)
 {
-    std::unique_ptr<PrintView> form = formAmong<PeriodSellReportView, DocumentJournalView, BalanceView,
-                                                PropertyJournalView, MeasurementView>(view, appDelegate);
+    std::unique_ptr<PrintView> form =
+        formAmong<PeriodSellReportView, ExpendReportView, DocumentJournalView, BalanceView,
+                  PropertyJournalView, MeasurementView>(view, appDelegate);
     if (form)
         form->setData();
     return form;
