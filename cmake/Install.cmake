@@ -13,6 +13,9 @@ foreach(program zelvor zelvor-cli)
     endif()
 endforeach()
 
+# zelvor-cli finds it from its own place.
+install(TARGETS zelvor-cli-pages RUNTIME DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/zelvor)
+
 install(FILES ${integration}/${ZELVOR_APP_ID}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${integration}/${ZELVOR_APP_ID}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES ${integration}/${ZELVOR_APP_ID}.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)

@@ -1,4 +1,5 @@
 #include "cli/command.h"
+#include "cli/pages.h"
 #include "cli/program.h"
 #include "cli/report.h"
 #include "cli/report_printer.h"
@@ -53,15 +54,13 @@ constexpr OptionInfo options[] = {
 
 struct ReportFormat {
     const char* name;
+    // None for the format that is drawn on pages.
     bool (*print)(const ReportTable& table, const Calendar& calendar, const Sink& sink);
 };
 
 // The first one is the one that is written unless another is asked for.
 constexpr ReportFormat formats[] = {
-    {"json", printJson},
-    {"text", printText},
-    {"csv", printCsv},
-    {"xls", printXls},
+    {"json", printJson}, {"text", printText}, {"csv", printCsv}, {"xls", printXls}, {"pdf", nullptr},
 };
 
 const ReportFormat* formatNamed(const QString& name)
@@ -129,6 +128,8 @@ int run(const Arguments& arguments)
     const std::optional<QString> path = arguments.value(u"-o"_s);
     if (path && isSameFile(*path, project))
         return badUsage(u"report: -o must not name the project itself"_s);
+    if (!format->print)
+        return printReportForm(*report, arguments);
 
     Program program;
     if (!program.open(project, Access::ReadOnly))
@@ -143,9 +144,13 @@ int run(const Arguments& arguments)
 
 const Command reportCommand{
     "report",
-    "report NAME PROJECT.pdb [--format json|text|csv] [-o FILE] [options of the report]",
+    "report NAME PROJECT.pdb [--format json|text|csv|xls|pdf] [-o FILE] [options of the report]",
     "computes a report",
-    "  --format F  json (the default), text or csv\n"
+    "  --format F  json (the default)\n"
+    "              text: aligned columns under their titles\n"
+    "              csv: RFC 4180, a line of column identifiers, plain figures, local times\n"
+    "              xls: an HTML table for spreadsheet programs, as the desktop exports it\n"
+    "              pdf: the print form on A4\n"
     "  -o FILE     writes FILE, whole or not at all, instead of standard output\n"
     "DAY is 2026-10-05, or @ and seconds since 1970; IDS are ids like 1,2,3.\n",
     options,

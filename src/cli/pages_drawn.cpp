@@ -1,0 +1,71 @@
+// In zelvor-cli-pages: draws on pages.
+
+#include "cli/command.h"
+#include "cli/delivery.h"
+#include "cli/output.h"
+#include "cli/pages.h"
+#include "cli/program.h"
+#include "print/print_forms.h"
+#include "print/print_invoice.h"
+#include "print/print_job.h"
+
+#include <QtCore/QBuffer>
+#include <QtGui/QGuiApplication>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+// What drawing needs of Qt, without a display, whatever the surroundings say of one.
+class Drawing {
+public:
+    Drawing()
+    {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        QGuiApplication::setDesktopSettingsAware(false);
+        m_application.emplace(m_count, m_words);
+    }
+
+private:
+    char m_name[11] = "zelvor-cli";
+    char* m_words[2] = {m_name, nullptr};
+    int m_count = 1;
+    std::optional<QGuiApplication> m_application;
+};
+
+int deliverPdf(PrintView& form, const std::optional<QString>& path)
+{
+    if (!form.warning.isEmpty())
+        writeError(form.warning);
+    return deliver(path, [&](const Sink& sink) {
+        QBuffer buffer;
+        return buffer.open(QIODevice::WriteOnly) && writePdf(form, buffer) && sink(buffer.data());
+    });
+}
+
+int refused(const QString& sentence)
+{
+    writeError(sentence);
+    return exitRefused;
+}
+
+} // namespace
+
+int printReportForm(const Report& report, const Arguments& arguments)
+{
+    const Drawing drawing;
+    Program program;
+    if (!program.open(arguments.positional()[1], Access::ReadOnly))
+        return exitBadUsage;
+    return report.run(program.appDelegate, arguments, [&](const ReportTable& table) {
+        const std::unique_ptr<PrintView> form = makePrintForm(table.view, program.appDelegate);
+        if (form)
+            return deliverPdf(*form, arguments.value(u"-o"_s));
+        const QString alert = program.dialogs.takeText();
+        return refused(alert.isEmpty() ? u"report: this one has no print form"_s : alert);
+    });
+}
+
+} // namespace zelvor
