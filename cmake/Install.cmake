@@ -40,6 +40,6 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# What no linking tells: the plugin that reads the icons, the faces of the printed forms, the time zones.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6svg6, fonts-urw-base35 | fonts-liberation, tzdata")
+# What no linking tells: the plugin that reads the icons, the face of the printed forms, the time zones.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6svg6, fonts-liberation, tzdata")
 include(CPack)

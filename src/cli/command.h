@@ -32,7 +32,6 @@ extern const Command infoCommand;
 extern const Command applyCommand;
 extern const Command importCommand;
 extern const Command reportCommand;
-extern const Command invoiceCommand;
 extern const Command closePeriodCommand;
 extern const Command checkCommand;
 extern const Command backupCommand;

@@ -6,7 +6,6 @@
 #include "cli/pages.h"
 #include "cli/program.h"
 #include "print/print_forms.h"
-#include "print/print_invoice.h"
 #include "print/print_job.h"
 
 #include <QtCore/QBuffer>
@@ -25,10 +24,20 @@ public:
     {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         QGuiApplication::setDesktopSettingsAware(false);
+        const QtMessageHandler handler = qInstallMessageHandler(tellFaults);
         m_application.emplace(m_count, m_words);
+        qInstallMessageHandler(handler);
     }
 
 private:
+    // On its way Qt looks for the folder of a session and warns when there is none, as in every nightly
+    // script.
+    static void tellFaults(QtMsgType type, const QMessageLogContext&, const QString& text)
+    {
+        if (type == QtCriticalMsg || type == QtFatalMsg)
+            writeError(text);
+    }
+
     char m_name[11] = "zelvor-cli";
     char* m_words[2] = {m_name, nullptr};
     int m_count = 1;

@@ -59,9 +59,4 @@ int printReportForm(const Report&, const Arguments&)
     return giveWay();
 }
 
-int printInvoice(const QString&, qint64, const QString&)
-{
-    return giveWay();
-}
-
 } // namespace zelvor

@@ -46,6 +46,7 @@ def menu_entry():
 def everyFileIsInItsPlace():
     expected = {
         "bin/zelvor-cli",
+        "libexec/zelvor/zelvor-cli-pages",
         "share/man/man1/zelvor-cli.1",
         f"share/applications/{APP_ID}.desktop",
         f"share/metainfo/{APP_ID}.metainfo.xml",
