@@ -416,6 +416,10 @@
         <translation>По себестоимости</translation>
     </message>
     <message>
+        <source>Base cost</source>
+        <translation>Себестоимость</translation>
+    </message>
+    <message>
         <source>Basis For Delete List</source>
         <translation>Список причин списания</translation>
     </message>
@@ -478,6 +482,10 @@
     <message>
         <source>Can't open project file!</source>
         <translation>Не удалось открыть файл проекта!</translation>
+    </message>
+    <message>
+        <source>Can't print more than 2 Warehouses at one time!</source>
+        <translation>За один раз можно напечатать не больше двух складов!</translation>
     </message>
     <message>
         <source>Canadian Dollar</source>
@@ -1761,6 +1769,10 @@ or Open Existing… for a project file that you have.</source>
         <translation>Печать (Ctrl+P)</translation>
     </message>
     <message>
+        <source>Print Operation Warning</source>
+        <translation>Печать невозможна</translation>
+    </message>
+    <message>
         <source>Print the VAT number on forms</source>
         <translation>Печатать ИНН на бланках</translation>
     </message>
@@ -1839,6 +1851,14 @@ or Open Existing… for a project file that you have.</source>
     <message>
         <source>Products On Warehouses</source>
         <translation>Товары на складах</translation>
+    </message>
+    <message>
+        <source>Products On Warehouses Report</source>
+        <translation>Отчёт о товарах на складах</translation>
+    </message>
+    <message>
+        <source>Products On Warehouses Report. On date:</source>
+        <translation>Отчёт о товарах на складах. На дату: </translation>
     </message>
     <message>
         <source>Products in Warehouses</source>
@@ -2007,6 +2027,10 @@ or Open Existing… for a project file that you have.</source>
     <message>
         <source>SUBTOTAL</source>
         <translation>СУММА</translation>
+    </message>
+    <message>
+        <source>SALDO:</source>
+        <translation>САЛЬДО:</translation>
     </message>
     <message>
         <source>SWIFT</source>

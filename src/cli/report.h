@@ -35,6 +35,10 @@ extern const Report periodSellReport;
 extern const Report journalReport;
 extern const Report expendsReport;
 extern const Report dynamicsReport;
+extern const Report paymentCalendarReport;
+extern const Report productsOnStockReport;
+extern const Report fixedAssetsReport;
+extern const Report unitsReport;
 
 std::span<const Report* const> reports();
 

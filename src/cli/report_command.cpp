@@ -20,6 +20,10 @@ std::span<const Report* const> reports()
         &journalReport,
         &expendsReport,
         &dynamicsReport,
+        &paymentCalendarReport,
+        &productsOnStockReport,
+        &fixedAssetsReport,
+        &unitsReport,
     };
     // clang-format on
     return all;

@@ -18,28 +18,41 @@ void ReportOptions::enterPeriod(DatePicker& dateFrom, DatePicker& dateTo)
     enterMoment(u"--to"_s, false, dateTo);
 }
 
-void ReportOptions::enterMoment(const QString& option, bool isStart, DatePicker& picker)
+std::optional<ReportOptions::Given> ReportOptions::given(const QString& option)
 {
     const std::optional<QString> text = m_arguments.value(option);
     if (!text)
-        return;
-    std::optional<qint64> moment;
+        return std::nullopt;
     if (text->startsWith(u'@')) {
         bool isNumber = false;
         const qint64 seconds = text->mid(1).toLongLong(&isNumber);
         if (isNumber && isAcceptedMoment(seconds))
-            moment = seconds;
-    } else {
-        moment = momentFromText(*text, m_calendar);
-        if (moment && text->size() == 10)
-            moment = m_calendar.normalizedDate(*moment, isStart);
+            return Given{seconds, false};
+    } else if (const std::optional<qint64> moment = momentFromText(*text, m_calendar)) {
+        const bool isDay = text->size() == 10;
+        return Given{*moment, isDay};
     }
-    if (!moment) {
-        fail(option + u" must be a day like 2026-10-05, or @ and seconds since 1970"_s);
+    fail(option + u" must be a day like 2026-10-05, or @ and seconds since 1970"_s);
+    return std::nullopt;
+}
+
+void ReportOptions::enterMoment(const QString& option, bool isStart, DatePicker& picker)
+{
+    const std::optional<Given> moment = given(option);
+    if (!moment)
         return;
-    }
-    picker.setMoment(*moment);
+    picker.setMoment(moment->isDay ? m_calendar.normalizedDate(moment->moment, isStart) : moment->moment);
     picker.userChanged();
+}
+
+void ReportOptions::enterDate(DatePicker& date)
+{
+    const std::optional<Given> moment = given(u"--date"_s);
+    if (!moment)
+        return;
+    date.setMoment(moment->moment);
+    if (moment->isDay)
+        date.userChanged();
 }
 
 std::vector<qint64> ReportOptions::ids(const QString& option)

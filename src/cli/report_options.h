@@ -20,6 +20,9 @@ public:
     // --from and --to: a day means its first moment, and for the end the midnight that ends it; local time,
     // or "@SECONDS", is taken as it is. Absent ones leave the picker as it stands.
     void enterPeriod(DatePicker& dateFrom, DatePicker& dateTo);
+    // --date: a day is picked as a person picks it; local time, or "@SECONDS", is taken as it is. When absent
+    // the picker stays as it stands.
+    void enterDate(DatePicker& date);
     std::vector<qint64> ids(const QString& option);
     // The place of the option's value among the words; the first one when it is absent.
     int choice(const QString& option, const QStringList& words);
@@ -30,6 +33,12 @@ public:
     const QString& error() const { return m_error; }
 
 private:
+    // What an option says; a day is its first moment then.
+    struct Given {
+        qint64 moment = 0;
+        bool isDay = false;
+    };
+    std::optional<Given> given(const QString& option);
     void enterMoment(const QString& option, bool isStart, DatePicker& picker);
 
     const Arguments& m_arguments;

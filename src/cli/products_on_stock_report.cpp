@@ -1,0 +1,61 @@
+#include "cli/command.h"
+#include "cli/json_writer.h"
+#include "cli/report.h"
+#include "cli/report_options.h"
+#include "reports/products_on_stock_report_view_controller.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+constexpr OptionInfo options[] = {
+    {"--date", true}, {"--product-groups", true}, {"--products", true}, {"--stocks", true}};
+
+// The figures behind the texts of the cells.
+void writeFigures(const ReportStockRow& row, JsonWriter& json)
+{
+    json.key(u"stocks"_s).beginArray();
+    for (const StockData& stock : row.stocks) {
+        json.beginObject()
+            .member(u"name"_s, stock.name)
+            .member(u"amount"_s, stock.amount.toDouble())
+            .member(u"sum"_s, stock.sum.toDouble())
+            .member(u"reserv"_s, stock.reserv.toDouble())
+            .endObject();
+    }
+    json.endArray()
+        .member(u"amountTotal"_s, row.amountTotal().toDouble())
+        .member(u"sumTotal"_s, row.sumTotal().toDouble());
+}
+
+int run(AppDelegate& appDelegate, const Arguments& arguments, const Report::Print& print)
+{
+    ProductsOnStockReportViewController report(appDelegate);
+    ReportOptions given(arguments, appDelegate.calendar);
+    report.prepareData();
+    given.enterDate(report.date);
+    report.setProductTypeIDs(given.ids(u"--product-groups"_s));
+    report.setProductIDs(given.ids(u"--products"_s));
+    report.setSelectedStocks(given.ids(u"--stocks"_s));
+    if (!given.error().isEmpty())
+        return badUsage(given.error());
+    report.prepareReport();
+    const auto rowAt = [&report](int row) -> const ReportStockRow& {
+        return *report.mainView.reportRows()[static_cast<std::size_t>(row)];
+    };
+    return print({report.mainView, [&](int row) { return rowAt(row).type; },
+                  [&](int row, JsonWriter& json) { writeFigures(rowAt(row), json); }});
+}
+
+} // namespace
+
+const Report productsOnStockReport{
+    "products-on-stock",
+    "[--date DAY] [--product-groups IDS] [--products IDS] [--stocks IDS]",
+    options,
+    run,
+};
+
+} // namespace zelvor
