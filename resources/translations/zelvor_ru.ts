@@ -1858,7 +1858,7 @@ or Open Existing… for a project file that you have.</source>
     </message>
     <message>
         <source>Products On Warehouses Report. On date:</source>
-        <translation>Отчёт о товарах на складах. На дату: </translation>
+        <translation>Отчёт о товарах на складах. На дату:</translation>
     </message>
     <message>
         <source>Products in Warehouses</source>

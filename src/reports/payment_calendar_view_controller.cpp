@@ -61,7 +61,9 @@ PaymentCalendarViewController::PaymentCalendarViewController(AppDelegate& owner)
 std::vector<std::shared_ptr<DocumentModel>> PaymentCalendarViewController::readDocuments()
 {
     std::vector<std::shared_ptr<DocumentModel>> documents;
-    const auto append = [&documents](const auto& read) {
+    // The open ones may be found by their counterparties.
+    const auto append = [&documents](auto read) {
+        std::ranges::sort(read, {}, [](const auto& document) { return document->id; });
         documents.insert(documents.end(), read.begin(), read.end());
     };
     Connector& connector = appDelegate.connector;
