@@ -28,6 +28,34 @@ protected:
         for (const QJsonObject& answer : answers)
             EXPECT_TRUE(answer["ok"].toBool());
     }
+    QJsonArray rowsOf(const QStringList& words) const
+    {
+        return run(QStringList{"report", words.first(), project} + words.mid(1)).json()["rows"].toArray();
+    }
+    void openDebtsAreThoseOfTheCalendar() const
+    {
+        const QJsonArray rows = rowsOf({"payment-calendar"});
+        ASSERT_GE(rows.size(), 2);
+        const QJsonObject total = rows[rows.size() - 2].toObject();
+        EXPECT_EQ(total["name"].toString(), "TOTAL:");
+        EXPECT_EQ(total["leftToPayIn"].toDouble(), 115810.33);
+        EXPECT_EQ(QString::number(total["leftToPayOut"].toDouble(), 'f', 2).toLatin1(),
+                  valueOf("SELECT printf('%.2f',sum(left_to_pay)) FROM product_doc WHERE doc_type_id=11"));
+    }
+    void stockAtCostIsTheBalancesGoods() const
+    {
+        double goods = 0;
+        for (const QJsonValue& row : rowsOf({"balance"})) {
+            if (row["name"].toString() == "Products On Warehouses")
+                goods = row["debet"].toDouble();
+        }
+        EXPECT_GT(goods, 0);
+        const QJsonArray rows = rowsOf({"products-on-stock", "--date", "1998-05-31"});
+        ASSERT_FALSE(rows.isEmpty());
+        EXPECT_EQ(rows[rows.size() - 1]["sumTotal"].toDouble(), goods);
+        EXPECT_EQ(QString::number(rows[rows.size() - 1]["amountTotal"].toDouble(), 'f', 2).toLatin1(),
+                  valueOf("SELECT printf('%.2f',sum(amount)) FROM stock_row"));
+    }
 };
 
 TEST_F(Northwind, allOperationsAreAcceptedAndTheSalesAreRightToTheCent)
@@ -57,6 +85,8 @@ TEST_F(Northwind, allOperationsAreAcceptedAndTheSalesAreRightToTheCent)
     EXPECT_EQ(valueOf("SELECT printf('%.2f',sum(left_to_pay)) FROM product_doc WHERE doc_type_id=12"),
               "115810.33");
     EXPECT_EQ(run({"check", project}).out, "[]\n");
+    openDebtsAreThoseOfTheCalendar();
+    stockAtCostIsTheBalancesGoods();
 }
 
 TEST_F(Northwind, aFirstLoadInBulkGivesTheSameBooks)
