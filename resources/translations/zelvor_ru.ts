@@ -2021,16 +2021,16 @@ or Open Existing… for a project file that you have.</source>
         <translation>Российский рубль</translation>
     </message>
     <message>
+        <source>SALDO:</source>
+        <translation>САЛЬДО:</translation>
+    </message>
+    <message>
         <source>SHIPPING</source>
         <translation>ДОСТАВКА</translation>
     </message>
     <message>
         <source>SUBTOTAL</source>
         <translation>СУММА</translation>
-    </message>
-    <message>
-        <source>SALDO:</source>
-        <translation>САЛЬДО:</translation>
     </message>
     <message>
         <source>SWIFT</source>
