@@ -32,6 +32,7 @@ extern const Command infoCommand;
 extern const Command applyCommand;
 extern const Command importCommand;
 extern const Command reportCommand;
+extern const Command invoiceCommand;
 extern const Command closePeriodCommand;
 extern const Command checkCommand;
 extern const Command backupCommand;

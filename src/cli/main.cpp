@@ -16,8 +16,8 @@ namespace zelvor {
 namespace {
 
 constexpr std::array commands{
-    &createCommand, &infoCommand,        &applyCommand, &importCommand,
-    &reportCommand, &closePeriodCommand, &checkCommand, &backupCommand,
+    &createCommand,  &infoCommand,        &applyCommand, &importCommand, &reportCommand,
+    &invoiceCommand, &closePeriodCommand, &checkCommand, &backupCommand,
 };
 
 int printHelp()

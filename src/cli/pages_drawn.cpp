@@ -5,7 +5,9 @@
 #include "cli/output.h"
 #include "cli/pages.h"
 #include "cli/program.h"
+#include "documents/product_document.h"
 #include "print/print_forms.h"
+#include "print/print_invoice.h"
 #include "print/print_job.h"
 
 #include <QtCore/QBuffer>
@@ -75,6 +77,23 @@ int printReportForm(const Report& report, const Arguments& arguments)
         const QString alert = program.dialogs.takeText();
         return refused(alert.isEmpty() ? u"report: this one has no print form"_s : alert);
     });
+}
+
+int printInvoice(const QString& project, qint64 id, const QString& path)
+{
+    const Drawing drawing;
+    Program program;
+    if (!program.open(project, Access::ReadOnly))
+        return exitBadUsage;
+    const std::shared_ptr<ProductDocument> document =
+        program.appDelegate.connector.select<ProductDocument>(id);
+    const std::unique_ptr<PrintInvoice> form =
+        document ? makeInvoice(program.appDelegate, document) : nullptr;
+    if (form)
+        return deliverPdf(*form, path);
+    const QString whose = u"product document "_s + QString::number(id);
+    return refused(document ? u"invoice: "_s + whose + u" is not a sale"_s
+                            : u"invoice: there is no "_s + whose);
 }
 
 } // namespace zelvor

@@ -59,4 +59,9 @@ int printReportForm(const Report&, const Arguments&)
     return giveWay();
 }
 
+int printInvoice(const QString&, qint64, const QString&)
+{
+    return giveWay();
+}
+
 } // namespace zelvor

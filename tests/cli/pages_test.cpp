@@ -21,6 +21,10 @@ protected:
     {
         return QStringList{"report", "balance", project, "--format", "pdf"} + options;
     }
+    QStringList invoice(const QString& id, const QString& path) const
+    {
+        return {"invoice", project, id, "-o", path};
+    }
     // The texts on the pages; skips nothing, but is empty without the tool.
     QByteArray texts(const QString& pdf) const
     {
@@ -86,9 +90,50 @@ TEST_F(Pages, theDisplayDoesNotMatter)
     EXPECT_TRUE(process.readAllStandardOutput().startsWith("%PDF-"));
 }
 
+TEST_F(Pages, theInvoiceOfASaleIsDrawnConfirmedOrNot)
+{
+    for (const char* id : {"2", "3"}) {
+        const CliRun result = run(invoice(id, file("invoice.pdf")));
+        EXPECT_EQ(result.exitCode, 0) << result.err.constData();
+        EXPECT_EQ(result.out, "");
+        EXPECT_TRUE(read(file("invoice.pdf")).startsWith("%PDF-"));
+        if (canReadPdf()) {
+            const QByteArray read = texts(file("invoice.pdf"));
+            EXPECT_TRUE(read.contains("Acme")) << read.constData();
+            EXPECT_TRUE(read.contains(*id == '2' ? "Lamp" : "Repair")) << read.constData();
+        }
+    }
+}
+
+TEST_F(Pages, whatIsNoSaleHasNoInvoice)
+{
+    for (const char* id : {"1", "99"}) { // an addition to the warehouse, nothing
+        const CliRun result = run(invoice(id, file("invoice.pdf")));
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_TRUE(result.saysOneLine()) << result.err.constData();
+        EXPECT_FALSE(QFile::exists(file("invoice.pdf")));
+    }
+}
+
+TEST_F(Pages, anInvoiceThatIsAskedForWronglyIsBadUsage)
+{
+    for (const QStringList& words : {QStringList{"invoice", project, "two", "-o", file("x.pdf")},
+                                     {"invoice", project, "0", "-o", file("x.pdf")},
+                                     {"invoice", project, "2"},
+                                     {"invoice", project, "-o", file("x.pdf")},
+                                     {"invoice", project, "2", "-o", project},
+                                     {"invoice", file("none.pdb"), "2", "-o", file("x.pdf")}}) {
+        const CliRun result = run(words);
+        EXPECT_EQ(result.exitCode, 2) << qPrintable(words.join(' '));
+        EXPECT_TRUE(result.saysOneLine()) << result.err.constData();
+    }
+    EXPECT_FALSE(QFile::exists(file("x.pdf")));
+    EXPECT_EQ(run({"check", project}).exitCode, 0);
+}
+
 TEST_F(Pages, aFileIsWrittenWholeOrNotAtAll)
 {
-    for (const QStringList& words : {balance({"-o", file("old")})}) {
+    for (const QStringList& words : {balance({"-o", file("old")}), invoice("2", file("old"))}) {
         write("old", "what was there");
         const CliRun full =
             runAt("sh", QStringList{"-c", "ulimit -f 0; exec \"$0\" \"$@\"", ZELVOR_CLI} + words);
@@ -146,6 +191,7 @@ TEST_F(Pages, theInstalledProgramIsFoundBelowLibexec)
 
     ASSERT_TRUE(QFile::copy(pagesProgram(), file("usr/libexec/zelvor/zelvor-cli-pages")));
     EXPECT_EQ(runAt(file("usr/bin/zelvor-cli"), balance()).exitCode, 0);
+    EXPECT_EQ(runAt(file("usr/bin/zelvor-cli"), invoice("2", file("invoice.pdf"))).exitCode, 0);
 }
 
 } // namespace zelvor
