@@ -2,6 +2,7 @@
 
 #include "cli/command.h"
 #include "cli/output.h"
+#include "store/crash_handler.h"
 #include "store/file_signals.h"
 
 #include <QtCore/QStringList>
@@ -92,6 +93,7 @@ int main(int argc, char** argv)
 {
     zelvor::holdStandardStreams();
     zelvor::ignoreFileSizeSignals();
+    zelvor::installCrashHandler(u"Zelvor-cli"_s, QStringLiteral(ZELVOR_VERSION), zelvor::crashReportFolder());
     QStringList words;
     for (int i = 1; i < argc; ++i)
         words.append(QString::fromLocal8Bit(argv[i]));

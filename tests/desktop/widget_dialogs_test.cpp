@@ -4,6 +4,7 @@
 
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
@@ -53,6 +54,26 @@ TEST_F(DialogsOnScreen, aQuestionStaysWhenTheSettingsThatLedToItAreClosed)
     EXPECT_EQ(question()->parentWidget(), &main);
     QTest::mouseClick(question()->buttons().constFirst(), Qt::LeftButton);
     EXPECT_EQ(answer, firstButton);
+}
+
+TEST_F(DialogsOnScreen, theBoxOfAQuestionHoldsFromTheTickOn)
+{
+    show(main);
+    std::vector<bool> toggled;
+    Alert alert{u"A new version"_s, {}, {u"Get it"_s, u"Later"_s}, 0};
+    alert.checkBox = AlertCheckBox{u"Tell me & others"_s, true, [&](bool on) { toggled.push_back(on); }};
+    dialogs.ask(alert, [this](int chosen) { answer = chosen; });
+    ASSERT_NE(question(), nullptr);
+    QCheckBox* const box = question()->checkBox();
+    ASSERT_NE(box, nullptr);
+    EXPECT_TRUE(box->isChecked());
+    EXPECT_EQ(box->text(), u"Tell me && others"_s);
+    QTest::keyClick(box, Qt::Key_Space);
+    EXPECT_EQ(toggled, std::vector<bool>{false});
+    EXPECT_EQ(answer, 0);
+    QTest::mouseClick(question()->buttons().constLast(), Qt::LeftButton);
+    EXPECT_EQ(answer, firstButton + 1);
+    EXPECT_EQ(toggled.size(), 1U);
 }
 
 TEST_F(DialogsOnScreen, aQuestionHangsOnTheWindowThatIsActive)

@@ -4,6 +4,8 @@
 #include "desktop/termination_signals.h"
 #include "desktop/theme.h"
 #include "desktop/translations.h"
+#include "online/network_services.h"
+#include "store/crash_handler.h"
 
 #include <QtCore/QStandardPaths>
 #include <QtCore/QTimeZone>
@@ -50,6 +52,8 @@ int run(QApplication& application, zelvor::DesktopSettings& settings)
     zelvor::DefaultsStore defaults;
     zelvor::AppDelegate appDelegate(
         {clock, zelvor::Calendar(QTimeZone::systemTimeZone()), dialogs, defaults});
+    const zelvor::NetworkServices services(appDelegate, zelvor::crashReportFolder(),
+                                           zelvor::crashReportPrefix.toString());
     zelvor::DesktopApplication desktop(appDelegate, settings);
     dialogs.parentWindow = &desktop.mainWindow;
 
@@ -76,6 +80,7 @@ int run(QApplication& application, zelvor::DesktopSettings& settings)
 
 int main(int argc, char* argv[])
 {
+    zelvor::installCrashHandler(u"Zelvor"_s, QStringLiteral(ZELVOR_VERSION), zelvor::crashReportFolder());
     QApplication application(argc, argv);
     if (const QString complaint = complaintAbout(application.arguments()); !complaint.isEmpty()) {
         std::fprintf(stderr, "%s\n", qPrintable(complaint));
