@@ -1861,6 +1861,10 @@ or Open Existing… for a project file that you have.</source>
         <translation>Отчёт о товарах на складах. На дату:</translation>
     </message>
     <message>
+        <source>Products On Warehouses: </source>
+        <translation>Товары на складах: </translation>
+    </message>
+    <message>
         <source>Products in Warehouses</source>
         <translation>Товары на складах</translation>
     </message>

@@ -12,7 +12,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr double lineHeight = 15;
 constexpr double textInset = 6;
 constexpr double numberInset = 3;
 constexpr double leastMargin = 1;      // between a text and the edge of its cell, when room is short
@@ -89,7 +88,7 @@ struct FittedText {
 // How far a text stands above the lower edge of its line.
 double rise(const FittedText& fitted)
 {
-    return (lineHeight - fitted.size.height()) / 2;
+    return (TableForm::lineHeight - fitted.size.height()) / 2;
 }
 
 // Line feeds and tabs that came in with a comment: a cell has its own lines.
@@ -109,7 +108,7 @@ bool isGatheringFont(CellFont font)
 
 double heightOf(const TableForm::Row& row)
 {
-    return row.lines * lineHeight + 1;
+    return row.lines * TableForm::lineHeight + 1;
 }
 
 QString percentText(double fraction)

@@ -22,6 +22,8 @@ public:
         double gap = 0; // free room before the column, which begins another block then
     };
 
+    static constexpr double lineHeight = 15; // of each line of a row
+
     // The first column begins at x `leftEdge`.
     TableForm(AppDelegate& owner, const QSizeF& sheet, QString formTitle, std::vector<Column> formColumns,
               double leftEdge = 1);
@@ -58,7 +60,7 @@ protected:
     virtual QString heading() const;
     virtual QString furtherHeading() const { return {}; }
     // Of one line, unless a form needs two.
-    virtual double bandHeight() const { return 15; }
+    virtual double bandHeight() const { return lineHeight; }
     virtual void drawTitles(Canvas& canvas, double bandTop) const;
     virtual bool isShown(const TableView& /*report*/, int /*row*/) const { return true; }
     virtual QString cellText(const TableView& report, int row, const Column& column) const;
