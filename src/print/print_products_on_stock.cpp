@@ -11,21 +11,22 @@ namespace {
 
 constexpr std::size_t ownColumns = 3;   // name, unit, cost
 constexpr std::size_t stockColumns = 3; // of one warehouse
+constexpr std::size_t totalColumns = 2;
 constexpr double figureWidth = 60;
 constexpr double unitWidth = 40;
 
 // The name takes what the other columns leave of the sheet.
-std::vector<TableForm::Column> columnsFor(qsizetype stocks)
+std::vector<TableForm::Column> columnsFor(std::size_t stocks)
 {
     using enum CellKind;
     const double sheet = stocks == 2 ? 750 : 520;
-    const double figures = figureWidth * static_cast<double>(1 + 3 * stocks + 2);
+    const double figures = figureWidth * static_cast<double>(1 + stockColumns * stocks + totalColumns);
     std::vector<TableForm::Column> columns{
         {u"name"_s, localized("Name"), sheet - unitWidth - figures},
         {u"units"_s, localized("Unit"), unitWidth},
         {u"cost"_s, localized("Base cost"), figureWidth, Amount},
     };
-    for (qsizetype stock = 0; stock < stocks; ++stock) {
+    for (std::size_t stock = 0; stock < stocks; ++stock) {
         columns.push_back({u"amount"_s, localized("Qty"), figureWidth, Amount});
         columns.push_back({u"sum"_s, localized("Sum"), figureWidth, Amount});
         columns.push_back({u"reserv"_s, localized("Reserve"), figureWidth, Amount});
@@ -45,7 +46,7 @@ const ReportStockRow& stockRowOf(const TableView& report, int row)
 
 PrintProductsOnStock::PrintProductsOnStock(AppDelegate& owner, QStringList names)
     : TableForm(owner, names.size() == 2 ? landscape : portrait, localized("Products On Warehouses Report"),
-                columnsFor(names.size())),
+                columnsFor(static_cast<std::size_t>(names.size()))),
       stockNames(std::move(names)), many(stockNames.size() == 2)
 {}
 
@@ -67,12 +68,20 @@ void PrintProductsOnStock::drawTitles(Canvas& canvas, double bandTop) const
         const double top = column < ownColumns ? bandTop - lineHeight / 2 : secondLine;
         drawTitle(canvas, columns[column].title, axis[column], colWidth[column], top);
     }
+    Canvas::Path edges{.lineWidth = 0.5};
     std::size_t column = ownColumns;
-    for (const QString& name : stockNames) {
-        drawTitle(canvas, name, axis[column + 1], stockColumns * figureWidth, bandTop);
-        column += stockColumns;
-    }
-    drawTitle(canvas, localized("Total"), (axis[column] + axis[column + 1]) / 2, 2 * figureWidth, bandTop);
+    const auto drawOver = [&](const QString& text, std::size_t count) {
+        const double left = axis[column] - figureWidth / 2;
+        const double width = figureWidth * static_cast<double>(count);
+        drawTitle(canvas, text, left + width / 2, width, bandTop);
+        edges.add({left, bandTop}, {left, bandTop - bandHeight()});
+        edges.add({left, secondLine}, {left + width, secondLine});
+        column += count;
+    };
+    for (const QString& name : stockNames)
+        drawOver(name, stockColumns);
+    drawOver(localized("Total"), totalColumns);
+    canvas.stroke(edges, whiteColor);
 }
 
 bool PrintProductsOnStock::isShown(const TableView& report, int row) const

@@ -281,7 +281,7 @@ void TableForm::drawLines(Canvas& canvas, double top, std::vector<Row>::const_it
         for (const auto& [left, right] : m_blocks)
             path.add({left, y}, {right, y});
     }
-    const double upper = std::min(top + bandHeight(), canvas.slice().bottom());
+    const double upper = std::min(top, canvas.slice().bottom());
     const double lower = std::max(top - rowsHeight() + 1, canvas.slice().top());
     if (upper > lower) {
         for (std::size_t column = 0; column < columns.size(); ++column) {
