@@ -124,6 +124,10 @@
         <translation>О программе</translation>
     </message>
     <message>
+        <source>Account</source>
+        <translation>Счёт</translation>
+    </message>
+    <message>
         <source>Account From</source>
         <translation>Со счёта</translation>
     </message>
@@ -374,6 +378,14 @@
     <message>
         <source>Balance</source>
         <translation>Баланс</translation>
+    </message>
+    <message>
+        <source>Balance After</source>
+        <translation>Остаток после</translation>
+    </message>
+    <message>
+        <source>Balance Before</source>
+        <translation>Остаток до</translation>
     </message>
     <message>
         <source>Balance Due</source>
@@ -740,6 +752,10 @@
         <translation>Кредит</translation>
     </message>
     <message>
+        <source>Credit (+)</source>
+        <translation>Кредит (+)</translation>
+    </message>
+    <message>
         <source>Currencies</source>
         <translation>Валюты</translation>
     </message>
@@ -798,6 +814,10 @@
     <message>
         <source>Debit</source>
         <translation>Дебет</translation>
+    </message>
+    <message>
+        <source>Debit (-)</source>
+        <translation>Дебет (-)</translation>
     </message>
     <message>
         <source>Default</source>
@@ -910,6 +930,10 @@
     <message>
         <source>E-mail</source>
         <translation>Эл. почта</translation>
+    </message>
+    <message>
+        <source>END PERIOD:</source>
+        <translation>КОНЕЦ ПЕРИОДА:</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -1027,6 +1051,10 @@
     <message>
         <source>Enable product base cost</source>
         <translation>Правка себестоимости товара</translation>
+    </message>
+    <message>
+        <source>End Balance</source>
+        <translation>Остаток на конец</translation>
     </message>
     <message>
         <source>Enter takes the product, Escape empties the line.</source>
@@ -1969,6 +1997,18 @@ or Open Existing… for a project file that you have.</source>
         <translation>Убрать логотип</translation>
     </message>
     <message>
+        <source>Report By Account '</source>
+        <translation>Отчёт по счёту '</translation>
+    </message>
+    <message>
+        <source>Report By Counterparty '</source>
+        <translation>Отчёт по контрагенту '</translation>
+    </message>
+    <message>
+        <source>Report By Employee '</source>
+        <translation>Отчёт по сотруднику '</translation>
+    </message>
+    <message>
         <source>Report by</source>
         <translation>Отчёт по</translation>
     </message>
@@ -1977,12 +2017,20 @@ or Open Existing… for a project file that you have.</source>
         <translation>Отчёт по счёту</translation>
     </message>
     <message>
+        <source>Report by All Counterparties.</source>
+        <translation>Отчёт по всем контрагентам.</translation>
+    </message>
+    <message>
         <source>Report by All Spendings.</source>
         <translation>Отчёт по всем расходам.</translation>
     </message>
     <message>
         <source>Report by Employee</source>
         <translation>Отчёт по сотруднику</translation>
+    </message>
+    <message>
+        <source>Report by Selected Counterparties.</source>
+        <translation>Отчёт по выбранным контрагентам.</translation>
     </message>
     <message>
         <source>Report by Selected Spendings.</source>
@@ -2031,6 +2079,10 @@ or Open Existing… for a project file that you have.</source>
     <message>
         <source>SHIPPING</source>
         <translation>ДОСТАВКА</translation>
+    </message>
+    <message>
+        <source>START PERIOD:</source>
+        <translation>НАЧАЛО ПЕРИОДА:</translation>
     </message>
     <message>
         <source>SUBTOTAL</source>
@@ -2163,6 +2215,10 @@ or Open Existing… for a project file that you have.</source>
     <message>
         <source>Spendings Report</source>
         <translation>Отчёт по расходам</translation>
+    </message>
+    <message>
+        <source>Start Balance</source>
+        <translation>Остаток на начало</translation>
     </message>
     <message>
         <source>Start Saldo</source>

@@ -39,6 +39,10 @@ extern const Report paymentCalendarReport;
 extern const Report productsOnStockReport;
 extern const Report fixedAssetsReport;
 extern const Report unitsReport;
+extern const Report contragentsReport;
+extern const Report contragentReport;
+extern const Report accountReport;
+extern const Report employeeReport;
 
 std::span<const Report* const> reports();
 

@@ -24,6 +24,10 @@ std::span<const Report* const> reports()
         &productsOnStockReport,
         &fixedAssetsReport,
         &unitsReport,
+        &contragentsReport,
+        &contragentReport,
+        &accountReport,
+        &employeeReport,
     };
     // clang-format on
     return all;

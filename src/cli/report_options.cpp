@@ -71,6 +71,18 @@ std::vector<qint64> ReportOptions::ids(const QString& option)
     return ids;
 }
 
+qint64 ReportOptions::id()
+{
+    const std::optional<QString> text = m_arguments.value(u"--id"_s);
+    bool isNumber = false;
+    const qint64 id = text.value_or(QString()).toLongLong(&isNumber);
+    if (!text)
+        fail(u"--id is missing: whose report is it to be?"_s);
+    else if (!isNumber || id <= 0)
+        fail(u"--id must be an id like 1"_s);
+    return m_error.isEmpty() ? id : 0;
+}
+
 int ReportOptions::choice(const QString& option, const QStringList& words)
 {
     const QString word = m_arguments.value(option).value_or(words.first());

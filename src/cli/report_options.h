@@ -24,6 +24,8 @@ public:
     // the picker stays as it stands.
     void enterDate(DatePicker& date);
     std::vector<qint64> ids(const QString& option);
+    // --id, which the report cannot do without; 0 when it makes no sense.
+    qint64 id();
     // The place of the option's value among the words; the first one when it is absent.
     int choice(const QString& option, const QStringList& words);
     // Words parted by commas, each of them known.

@@ -82,7 +82,14 @@ const TableInfo& MoneyDocument::table()
         linkOf<&Document::employeeID, &Document::employee>(),
         linkOf<&Document::expendID, &Document::expend>(),
     };
-    static constexpr IndexInfo indexes[] = {{"ix_money_doc_date", "money_doc(date)"}};
+    // The statements' are partial: a document stands in those of the parties that it has, and nowhere else.
+    static constexpr IndexInfo indexes[] = {
+        {"ix_money_doc_date", "money_doc(date)"},
+        {"ix_money_doc_contragent", "money_doc(contragent_id, date) WHERE contragent_id<>0"},
+        {"ix_money_doc_employee", "money_doc(employee_id, date) WHERE employee_id<>0"},
+        {"ix_money_doc_account_from", "money_doc(account_from_id, date) WHERE account_from_id<>0"},
+        {"ix_money_doc_account_to", "money_doc(account_to_id, date) WHERE account_to_id<>0"},
+    };
     static constexpr TableInfo info{"money_doc", columns, links, indexes, nullptr, makeRecord<Document>};
     return info;
 }

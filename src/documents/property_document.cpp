@@ -40,6 +40,7 @@ const TableInfo& PropertyDocument::table()
     };
     static constexpr IndexInfo indexes[] = {
         {"ix_property_doc_date", "property_doc(date)"},
+        {"ix_property_doc_contragent", "property_doc(contragent_id, date) WHERE contragent_id<>0"},
         {"ix_property_doc_open", "property_doc(contragent_id, doc_type_id) WHERE left_to_pay>0"},
     };
     static constexpr TableInfo info{"property_doc", columns, links, indexes, nullptr, makeRecord<Document>};
