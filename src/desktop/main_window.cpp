@@ -20,6 +20,7 @@
 #include <QtGui/QCloseEvent>
 #include <QtGui/QDesktopServices>
 #include <QtGui/QScreen>
+#include <QtGui/QWindow>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QVBoxLayout>
 
@@ -32,6 +33,7 @@ namespace zelvor {
 namespace {
 
 constexpr QSize firstSize(1440, 900);
+constexpr QSize leastSize(1000, 640); // narrower, the fields of a document would stand in each other's way
 constexpr int widestMenu = 300;
 constexpr int narrowestPage = 320;
 
@@ -149,9 +151,18 @@ void MainWindow::showOrHide()
     showTitle();
     restoreState();
     show();
+    holdLeastSize(); // its frame is known now
+    connect(windowHandle(), &QWindow::screenChanged, this, &MainWindow::holdLeastSize, Qt::UniqueConnection);
     if (!isMaximized() && !isFullScreen())
-        moveOntoScreen(*this); // its frame is known now
+        moveOntoScreen(*this);
     focusPage();
+}
+
+// A small screen holds the window whole all the same.
+void MainWindow::holdLeastSize()
+{
+    const QSize frame = frameGeometry().size() - size();
+    setMinimumSize(leastSize.boundedTo(screen()->availableSize() - frame));
 }
 
 void MainWindow::showTitle()

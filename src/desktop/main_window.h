@@ -49,6 +49,7 @@ private:
     void layOut();
     void listen();
     void showOrHide();
+    void holdLeastSize();
     void showTitle();
     void showPages();
     void focusPage();

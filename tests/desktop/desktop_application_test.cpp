@@ -48,10 +48,13 @@ protected:
 TEST_F(TwoStarts, haveTheWindowAtTheSamePlace)
 {
     auto first = start();
-    first->mainWindow.setGeometry(40, 50, 640, 480);
+    const QRect whole = first->mainWindow.geometry();
+    const QRect place(whole.left(), whole.top() + 60, whole.width(), 650);
+    ASSERT_NE(place, whole);
+    first->mainWindow.setGeometry(place);
     end(first);
     const auto second = start();
-    EXPECT_EQ(second->mainWindow.geometry(), QRect(40, 50, 640, 480));
+    EXPECT_EQ(second->mainWindow.geometry(), place);
 }
 
 TEST_F(TwoStarts, bringAWindowBackOntoTheScreen)
