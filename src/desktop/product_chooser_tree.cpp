@@ -37,6 +37,7 @@ ProductChooserTree::ProductChooserTree(ProductDocumentViewController& form, QWid
     setMinimumWidth(fontMetrics().averageCharWidth() * shortestName +
                     static_cast<int>(m_inFront.size()) * widthOf(-1) + 2 * frameWidth());
     connect(outlineModel(), &OutlineViewModel::reloaded, this, [this] { arrangeColumns(); });
+    connect(this, &QTreeView::expanded, this, [this] { arrangeColumns(); });
 }
 
 // Those in front first, then the rest as the catalog has them.

@@ -120,6 +120,8 @@ void TreeList::tellExpanded(const QModelIndex& index, bool expanded)
     if (m_restoring || !m_model->filter().isEmpty())
         return;
     m_model->view().setItemExpanded(m_model->node(index), expanded);
+    if (expanded)
+        showBranch(index);
     // A selected row goes out of sight with the group that holds it: the group has the selection then.
     for (QModelIndex above = currentIndex().parent(); !expanded && above.isValid(); above = above.parent()) {
         if (above == index)
@@ -166,6 +168,18 @@ void TreeList::takeOver()
     m_restoring = false;
     restoreScroll();
     paintGround();
+}
+
+// What stood open in a group when the rows were read anew stands open when the group opens, and the columns
+// are wide enough for what comes into sight.
+void TreeList::showBranch(const QModelIndex& index)
+{
+    m_restoring = true;
+    restoreExpanded(index);
+    m_restoring = false;
+    std::vector<QModelIndex> sample;
+    sampleRows(index, sample);
+    m_columns->adopt(m_model->columns(), sample);
 }
 
 // Only open branches are entered, so a closed tree of any size costs nothing.

@@ -46,6 +46,7 @@ private:
     void adoptColumns();
     void sampleRows(const QModelIndex& parent, std::vector<QModelIndex>& sample) const;
     void takeOver();
+    void showBranch(const QModelIndex& index);
     void restoreExpanded(const QModelIndex& parent);
     void restoreSelection();
     void restoreScroll();

@@ -3,9 +3,11 @@
 #include "catalogs/function.h"
 #include "catalogs/manager.h"
 #include "desktop/catalog_page_fixture.h"
+#include "desktop/measures.h"
 
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QPlainTextEdit>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QSlider>
 
 namespace zelvor {
@@ -287,6 +289,26 @@ TEST_F(ContragentsPage, aTickHidesACounterpartyButNotItsRow)
     program.clickCell(list(), cell(u"Customers"_s));
     press(Qt::Key_Space);
     EXPECT_TRUE(stored<ContragentGroup>(1)->isHidden);
+}
+
+TEST_F(ContragentsPage, theManagerIsNotCutOffWhereThereIsRoom)
+{
+    Manager manager;
+    manager.name = u"Wilhelmina Montgomery"_s;
+    Contragent record;
+    record.name = u"Acme"_s;
+    record.managerID = store(manager);
+    record.parentID = storeNamed<ContragentGroup>(u"Customers"_s);
+    store(std::move(record));
+    openPage(DocType::ContragentCatalog);
+    ASSERT_FALSE(tree()->isExpanded(cell(u"Customers"_s).siblingAtColumn(0)));
+    program.clickCell(list(), cell(u"Customers"_s));
+    press(Qt::Key_Right);
+    const int column = columnTitled(list(), u"Manager"_s);
+    EXPECT_EQ(text(u"Acme"_s, u"Manager"_s), u"Wilhelmina Montgomery"_s);
+    EXPECT_GE(tree()->columnWidth(column),
+              tree()->sizeHintForIndex(cell(u"Acme"_s, u"Manager"_s)).width() - measures::rowPadding);
+    EXPECT_EQ(tree()->horizontalScrollBar()->maximum(), 0);
 }
 
 TEST_F(ContragentsPage, theFormFitsASmallWindow)

@@ -517,6 +517,20 @@ TEST_F(TreeListTest, aRowIsDroppedOnAGroupAndStaysInSight)
     EXPECT_EQ(shown(), u"Drinks Hot Tea Soap Dishes Cup Water"_s); // opened for the row
 }
 
+TEST_F(TreeListTest, anOpenGroupThatIsMovedIntoAClosedOneStandsOpenWhenThatOneOpens)
+{
+    open();
+    list->collapse(row(u"Dishes"_s));
+    ASSERT_TRUE(view.acceptDrop(u"Hot"_s, sample(u"Dishes"_s))); // as its form does it
+    ASSERT_EQ(shown(), u"Drinks Water Dishes Soap"_s);
+    list->expand(row(u"Dishes"_s));
+    EXPECT_EQ(shown(), u"Drinks Water Dishes Cup Hot Tea Soap"_s);
+    list->collapse(row(u"Hot"_s));
+    list->collapse(row(u"Dishes"_s));
+    list->expand(row(u"Dishes"_s));
+    EXPECT_EQ(shown(), u"Drinks Water Dishes Cup Hot Soap"_s);
+}
+
 TEST_F(TreeListTest, aDropThatMakesNoSenseIsRefusedWithoutAMark)
 {
     open();
