@@ -18,6 +18,7 @@ namespace {
 
 constexpr int padding = 2 * measures::rowPadding;
 constexpr int widestText = 34;    // in letters: a longer text is cut off at first
+constexpr int shortestText = 12;  // in letters: what it keeps where the window is too narrow for all columns
 constexpr int narrowestName = 20; // in letters
 constexpr int denseName = 16;     // in letters
 
@@ -137,27 +138,70 @@ void ListColumns::layOut()
 {
     if (std::exchange(m_settingWidths, true))
         return;
+    std::map<int, int> widths = wishedWidths();
     int left = m_list.viewport()->width();
-    int fillerWidth = 0;
+    for (const auto& [section, width] : widths)
+        left -= width;
+    if (left < 0)
+        left += shorten(widths, -left);
+    if (left > 0 && m_filler >= 0 && !isGiven(m_filler))
+        widths[m_filler] += left;
+    for (const auto& [section, width] : widths)
+        m_header.resizeSection(section, width);
+    m_settingWidths = false;
+}
+
+bool ListColumns::isGiven(int section) const
+{
+    return m_given.contains(m_columns[static_cast<std::size_t>(section)].identifier);
+}
+
+// Of each column that shows: what the user gave it, else what it holds; the one that takes the rest, its
+// least.
+std::map<int, int> ListColumns::wishedWidths() const
+{
+    std::map<int, int> widths;
     for (int i = 0; i < static_cast<int>(m_columns.size()); ++i) {
         const ViewColumn& column = m_columns[static_cast<std::size_t>(i)];
         if (column.hidden)
             continue;
-        const auto given = m_given.find(column.identifier);
         const auto fitted = m_fitted.find(column.identifier);
-        const int width = given != m_given.end()     ? given->second
-                          : fitted != m_fitted.end() ? fitted->second
-                                                     : minimumWidth(i);
-        if (i == m_filler && given == m_given.end()) {
-            fillerWidth = minimumWidth(i);
-            continue;
-        }
-        m_header.resizeSection(i, width);
-        left -= width;
+        if (isGiven(i))
+            widths[i] = m_given.at(column.identifier);
+        else
+            widths[i] = i == m_filler || fitted == m_fitted.end() ? minimumWidth(i) : fitted->second;
     }
-    if (fillerWidth > 0)
-        m_header.resizeSection(m_filler, std::max(fillerWidth, left));
-    m_settingWidths = false;
+    return widths;
+}
+
+// Takes the width that is lacking from the texts, but not from the first one, which says what the row is;
+// from each in proportion to what it can spare. Returns what could be taken.
+int ListColumns::shorten(std::map<int, int>& widths, int lacking) const
+{
+    std::map<int, int> spares;
+    int spare = 0;
+    bool isFirst = true;
+    for (const auto& [section, width] : widths) {
+        const ViewColumn& column = m_columns[static_cast<std::size_t>(section)];
+        if (column.kind != CellKind::Text)
+            continue;
+        if (std::exchange(isFirst, false) || section == m_filler || isGiven(section))
+            continue;
+        const int least =
+            std::max(minimumWidth(section), m_list.fontMetrics().averageCharWidth() * shortestText);
+        spares[section] = std::max(width - least, 0);
+        spare += spares[section];
+    }
+    int open = std::min(lacking, spare);
+    const int taken = open;
+    for (const auto& [section, own] : spares) {
+        // Of what is left of both, so that the roundings add up.
+        const int cut = spare > 0 ? (own * open + spare - 1) / spare : 0;
+        widths[section] -= cut;
+        open -= cut;
+        spare -= own;
+    }
+    return taken;
 }
 
 void ListColumns::setDense()

@@ -17,7 +17,8 @@ namespace zelvor {
 // The columns of a table or tree: which ones show, how wide they are, and what a click on their headers does.
 //
 // Each column is as wide as what it holds; one column of texts, the name where there is one, takes what is
-// left of the window, but never less than it needs: a window too narrow for all columns scrolls. A width that
+// left of the window, but never less than it needs. In a window too narrow for all columns the texts behind
+// the first are cut off, down to some letters, and where that is not enough the list scrolls. A width that
 // the user gave stays as long as the list lives. Columns of numbers grow when larger numbers come.
 class ListColumns : public QObject {
     Q_OBJECT
@@ -41,6 +42,9 @@ protected:
 private:
     void fit(int section, const std::vector<QModelIndex>& sample);
     int minimumWidth(int section) const;
+    bool isGiven(int section) const;
+    std::map<int, int> wishedWidths() const;
+    int shorten(std::map<int, int>& widths, int lacking) const;
     void sortByClick(int section);
 
     // Where the mark of the sorted column stands.

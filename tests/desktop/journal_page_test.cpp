@@ -8,6 +8,7 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QScrollBar>
 
 namespace zelvor {
 
@@ -292,6 +293,32 @@ TEST_F(JournalPageTest, theSearchLineLeavesTheRowsThatMatch)
     shop.page()->perform(PageCommand::Find);
     QTest::keyClicks(QApplication::focusWidget(), u"zen"_s);
     EXPECT_EQ(shop.shown(u"contragent"_s), QStringList{u"Zenith"_s});
+}
+
+TEST_F(JournalPageTest, longTextsAreCutOffBeforeTheListScrollsSideways)
+{
+    shop.acme.name = u"Acme Household Goods and Garden Furniture"_s;
+    shop.stock.name = u"Main warehouse at the old harbour"_s;
+    Connector& connector = shop.program.appDelegate.connector;
+    ASSERT_EQ(connector.update(shop.acme), 1);
+    ASSERT_EQ(connector.update(shop.stock), 1);
+    const auto sale = shop.form(DocType::SellProduct, shop.acme);
+    shop.addRow(*sale, shop.tea, 2, 7);
+    sale->mainView.comment.setText(u"to be called for on Thursday, not before noon"_s);
+    sale->mainView.comment.userChanged();
+    ASSERT_TRUE(sale->confirmDoc());
+    shop.window().resize(1440, 900);
+    openJournal();
+    QCoreApplication::processEvents();
+    const TableList& list = *shop.page()->list();
+    EXPECT_EQ(list.horizontalScrollBar()->maximum(), 0);
+    for (int column = 0; column < list.model()->columnCount(); ++column)
+        EXPECT_GE(list.columnWidth(column), list.horizontalHeader()->sectionSizeHint(column)) << column;
+    for (const QString& whole : {u"number"_s, u"journalName"_s, u"date"_s, u"sum"_s}) {
+        const QModelIndex cell = shop.cell(1, whole);
+        EXPECT_GE(list.columnWidth(cell.column()), list.sizeHintForIndex(cell).width())
+            << whole.toStdString();
+    }
 }
 
 } // namespace zelvor
