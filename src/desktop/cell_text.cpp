@@ -17,6 +17,13 @@ QString onScreen(QString text, const QLocale& locale)
     return text.replace(u' ', QChar(thinBlank));
 }
 
+// Always with two decimals: percents stand below each other.
+QString screenPercent(const Decimal& fraction, const QLocale& locale)
+{
+    const QString percent = screenAmount(fraction.times(Decimal(100), moneyHandler), locale);
+    return fraction.isNaN() ? percent : percent + QChar(thinBlank) + u'%';
+}
+
 } // namespace
 
 QString screenAmount(const Decimal& amount, const QLocale& locale)
@@ -56,7 +63,7 @@ QString cellText(const QVariant& value, CellKind kind, const Calendar& calendar,
     case CellKind::Amount:
         return screenAmount(Decimal::fromDouble(value.toDouble(), moneyHandler), locale);
     case CellKind::Percent:
-        return onScreen(percentText(Decimal::fromDouble(value.toDouble())), locale);
+        return screenPercent(Decimal::fromDouble(value.toDouble()), locale);
     case CellKind::Date:
         return locale.toString(calendar.dateTime(value.toLongLong()), shortDateTimeFormat(locale));
     case CellKind::CheckBox:

@@ -11,7 +11,8 @@
 namespace zelvor {
 
 // How a value of a list stands on the screen: amounts with two decimals and groups parted by a thin blank,
-// fractions as percent, moments as short local date and time. A text is shown as it is, on one line.
+// fractions as percent in the same way, moments as short local date and time. A text is shown as it is, on
+// one line.
 QString cellText(const QVariant& value, CellKind kind, const Calendar& calendar, const QLocale& locale);
 QString screenAmount(const Decimal& amount, const QLocale& locale);
 // For an edit field: no groups, at least two decimals, the locale's own decimal separator.

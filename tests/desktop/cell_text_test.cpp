@@ -58,9 +58,12 @@ TEST(CellText, whatIsNoAmountSaysSo)
 TEST(CellText, aFractionIsShownAsPercent)
 {
     EXPECT_EQ(shown(0.4286, CellKind::Percent), u"42.86\u202f%"_s);
-    EXPECT_EQ(shown(0.5, CellKind::Percent), u"50\u202f%"_s);
+    EXPECT_EQ(shown(0.5, CellKind::Percent), u"50.00\u202f%"_s);
+    EXPECT_EQ(shown(2.185, CellKind::Percent), u"218.50\u202f%"_s);
+    EXPECT_EQ(shown(0.12346, CellKind::Percent), u"12.35\u202f%"_s);
+    EXPECT_EQ(shown(std::numeric_limits<double>::quiet_NaN(), CellKind::Percent), u"NaN"_s);
     EXPECT_EQ(shown(0.4286, CellKind::Percent, german), u"42,86\u202f%"_s);
-    EXPECT_EQ(shown(-12.5, CellKind::Percent), u"-1\u202f250\u202f%"_s);
+    EXPECT_EQ(shown(-12.5, CellKind::Percent), u"-1\u202f250.00\u202f%"_s);
 }
 
 TEST(CellText, aMomentIsShownInTheZoneOfTheCalendarWithTheWholeYear)

@@ -459,7 +459,7 @@ TEST_F(ProductDocumentPageTest, theTaxColumnsComeAndGoWithTheTick)
         return table()->isColumnHidden(table()->tableModel()->columnWithIdentifier(column));
     };
     EXPECT_FALSE(hidden(u"vatPercent"_s));
-    EXPECT_EQ(text(0, u"vatPercent"_s), u"20\u202f%"_s);
+    EXPECT_EQ(text(0, u"vatPercent"_s), u"20.00\u202f%"_s);
     EXPECT_EQ(text(0, u"vat"_s), u"30.00"_s);
     EXPECT_TRUE(hidden(u"includeShipment"_s));
     program.click(u"vatCheck"_s);

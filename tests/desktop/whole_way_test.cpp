@@ -361,8 +361,8 @@ void WholeWay<HandOfTest>::readReport()
 {
     ASSERT_NO_FATAL_FAILURE(hand.openEntry(u"Sales for a Period"_s));
     hand.refresh();
-    EXPECT_EQ(pageRows(), " Chai|pcs|4.00||20.00|32.00|12.00|60\u202F%\n"
-                          " TOTAL||4.00||20.00|32.00|12.00|60\u202F%");
+    EXPECT_EQ(pageRows(), " Chai|pcs|4.00||20.00|32.00|12.00|60.00\u202F%\n"
+                          " TOTAL||4.00||20.00|32.00|12.00|60.00\u202F%");
 }
 
 template <class HandOfTest>
