@@ -19,6 +19,13 @@ bool hasOutline(QStyle::PrimitiveElement element)
            element == QStyle::PE_IndicatorCheckBox || element == QStyle::PE_IndicatorRadioButton;
 }
 
+// Outlines are made by darkening the window's colour, which nobody sees on dark ground: a lighter one to
+// darken.
+void lighten(QPalette& palette)
+{
+    palette.setColor(QPalette::Window, QColor(0xa4, 0xa6, 0xac));
+}
+
 } // namespace
 
 DesktopStyle::DesktopStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
@@ -36,8 +43,6 @@ int DesktopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
     }
 }
 
-// The underlying style makes outlines by darkening the window's colour, which nobody sees on dark ground:
-// there it is given a lighter one to darken.
 void DesktopStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                  const QWidget* widget) const
 {
@@ -46,7 +51,7 @@ void DesktopStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
         return;
     }
     const auto draw = [&](auto outlined) {
-        outlined.palette.setColor(QPalette::Window, QColor(0xa4, 0xa6, 0xac));
+        lighten(outlined.palette);
         QProxyStyle::drawPrimitive(element, &outlined, painter, widget);
     };
     if (const auto* const frame = qstyleoption_cast<const QStyleOptionFrame*>(option))
@@ -55,6 +60,19 @@ void DesktopStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
         draw(*button);
     else
         draw(*option);
+}
+
+void DesktopStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                      QPainter* painter, const QWidget* widget) const
+{
+    const auto* const spin = qstyleoption_cast<const QStyleOptionSpinBox*>(option);
+    if (control != CC_SpinBox || !spin || !isDark(option->palette)) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        return;
+    }
+    QStyleOptionSpinBox outlined = *spin;
+    lighten(outlined.palette);
+    QProxyStyle::drawComplexControl(control, &outlined, painter, widget);
 }
 
 void DesktopStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

@@ -7,8 +7,10 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QDateTimeEdit>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QRadioButton>
+#include <QtWidgets/QSpinBox>
 #include <QtWidgets/QStyleOption>
 
 #include <algorithm>
@@ -95,6 +97,14 @@ TEST_P(Outlines, aChooserHasOne)
 {
     QComboBox chooser(&window);
     EXPECT_GE(clearest(chooser, all()), seen);
+}
+
+TEST_P(Outlines, aFieldWithStepsHasOne)
+{
+    QSpinBox number(&window);
+    EXPECT_GE(clearest(number, all()), seen);
+    QDateTimeEdit date(&window);
+    EXPECT_GE(clearest(date, all()), seen);
 }
 
 INSTANTIATE_TEST_SUITE_P(DesktopStyle, Outlines, testing::Values(Appearance::Light, Appearance::Dark),
