@@ -4,7 +4,6 @@
 #include "desktop/row_filter.h"
 
 #include <QtCore/QMimeData>
-#include <QtCore/QPointer>
 #include <QtGui/QGuiApplication>
 
 #include <algorithm>
@@ -17,11 +16,7 @@ namespace zelvor {
 OutlineViewModel::OutlineViewModel(OutlineView& view, const Calendar& calendar, QObject* parent)
     : QAbstractItemModel(parent), m_view(view), m_calendar(calendar), m_columns(view.columns())
 {
-    const QPointer<OutlineViewModel> self(this);
-    view.onReload([self] {
-        if (self)
-            self->reload();
-    });
+    view.onReload(m_listening, [this] { reload(); });
     reload();
 }
 

@@ -90,6 +90,7 @@ private:
     std::unordered_set<const TableModel*> m_matching; // unused without a filter
     // By the holder; made when asked for.
     mutable std::unordered_map<const TableModel*, std::unique_ptr<Branch>> m_branches;
+    std::shared_ptr<void> m_listening = std::make_shared<char>(); // to the view, as long as the model lives
     bool m_reloading = false;
     bool m_reloadWaits = false;
     mutable int m_questions = 0; // of Qt's, being answered

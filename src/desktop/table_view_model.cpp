@@ -3,7 +3,6 @@
 #include "desktop/question_guard.h"
 #include "desktop/row_filter.h"
 
-#include <QtCore/QPointer>
 #include <QtGui/QGuiApplication>
 
 #include <algorithm>
@@ -14,11 +13,7 @@ namespace zelvor {
 TableViewModel::TableViewModel(TableView& view, const Calendar& calendar, QObject* parent)
     : QAbstractTableModel(parent), m_view(view), m_calendar(calendar), m_columns(view.columns())
 {
-    const QPointer<TableViewModel> self(this);
-    view.onReload([self] {
-        if (self)
-            self->reload();
-    });
+    view.onReload(m_listening, [this] { reload(); });
     reload();
 }
 

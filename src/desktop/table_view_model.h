@@ -5,6 +5,7 @@
 
 #include <QtCore/QAbstractTableModel>
 
+#include <memory>
 #include <vector>
 
 namespace zelvor {
@@ -57,7 +58,8 @@ private:
     std::vector<ViewColumn> m_columns;
     int m_rowCount = 0;
     QString m_filter;
-    std::vector<int> m_filteredRows; // view rows; unused without a filter
+    std::vector<int> m_filteredRows;                              // view rows; unused without a filter
+    std::shared_ptr<void> m_listening = std::make_shared<char>(); // to the view, as long as the model lives
     bool m_reloading = false;
     bool m_reloadWaits = false;
     mutable int m_questions = 0; // of Qt's, being answered

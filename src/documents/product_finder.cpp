@@ -31,10 +31,7 @@ Rank rankOf(const QString& name, const QString& typed)
 
 ProductFinder::ProductFinder(ProductView& products) : m_products(products)
 {
-    products.onReload([stale = std::weak_ptr<bool>(m_stale)] {
-        if (const auto flag = stale.lock())
-            *flag = true;
-    });
+    products.onReload(m_stale, [stale = m_stale.get()] { *stale = true; });
 }
 
 void ProductFinder::collect(const ProductView::Nodes& nodes)

@@ -37,7 +37,7 @@ void CustomTabView::addPageWithView(TabPage page, const QString& title, const QS
     pagesChanged();
 }
 
-// A view has no way to be heard no longer, so a permanent one, which comes again, is heard once and for all.
+// A permanent view comes again: it is heard once and for all.
 void CustomTabView::followTitle(BaseView& view, bool isPermanent)
 {
     if (isPermanent) {

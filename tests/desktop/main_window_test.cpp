@@ -1,3 +1,6 @@
+#include "catalogs/contragent_view_controller.h"
+#include "catalogs/product_view_controller.h"
+#include "catalogs/stock_view_controller.h"
 #include "core/doc_type.h"
 #include "desktop/elided_label.h"
 #include "desktop/menu_tree.h"
@@ -6,6 +9,7 @@
 #include "desktop/tab_strip.h"
 #include "desktop/theme.h"
 #include "documents/product_document_view_controller.h"
+#include "period/balance_view_controller.h"
 #include "support/desktop_menu.h"
 #include "support/desktop_program.h"
 
@@ -347,6 +351,36 @@ TEST_F(Window, isMadeWideEnoughWhenAProductDocumentOpens)
     openSale();
     const int screen = window().screen()->availableGeometry().width();
     EXPECT_EQ(window().frameGeometry().width(), std::min(screen, 1200 + 251));
+}
+
+// The catalogs and the sheet outlive their pages.
+TEST_F(Window, leavesNoListenersBehindWhenTabsAreOpenedAndClosed)
+{
+    program.openNewProject();
+    const std::vector<const BaseView*> permanent{
+        &workspace().stockController->view, &workspace().productController->view,
+        &workspace().contragentController->view, &workspace().balanceController->view};
+    const auto openAndCloseAll = [this] {
+        for (const DocType type : {DocType::StockCatalog, DocType::ProductCatalog, DocType::ContragentCatalog,
+                                   DocType::BalanceSheet, DocType::SellProduct}) {
+            workspace().topMenuAction(type);
+            ASSERT_EQ(tabs(), 1U);
+            workspace().closeTab(0);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            ASSERT_EQ(tabs(), 0U);
+        }
+    };
+    const auto listeners = [&permanent] {
+        std::vector<std::size_t> counts;
+        for (const BaseView* const view : permanent)
+            counts.push_back(view->listenerCount());
+        return counts;
+    };
+    openAndCloseAll();
+    const std::vector<std::size_t> once = listeners();
+    for (int i = 0; i < 20; ++i)
+        openAndCloseAll();
+    EXPECT_EQ(listeners(), once);
 }
 
 } // namespace zelvor

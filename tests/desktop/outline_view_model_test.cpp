@@ -77,6 +77,15 @@ TEST_F(TreeModelTest, showsAFoundGroupClosedWhenNothingInItIsFound)
     EXPECT_FALSE(model->hasChildren(model->index(0, 0)));
 }
 
+TEST_F(TreeModelTest, leavesNoListenerBehindWhenItGoes)
+{
+    const std::size_t before = view.listenerCount();
+    for (int i = 0; i < 100; ++i)
+        const OutlineViewModel passing(view, calendar);
+    view.reloadData();
+    EXPECT_LE(view.listenerCount(), before + 1); // the last one is counted until another comes
+}
+
 TEST_F(TreeModelTest, findsTheRowOfANodeAndTheNodeOfARow)
 {
     const QModelIndex row = model->indexOf(tea);

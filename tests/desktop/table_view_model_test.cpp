@@ -90,6 +90,15 @@ TEST_F(TableModelTest, tellsOfChangedValuesInPlaceAndOfOtherRowsByAReset)
     EXPECT_EQ(model.rowCount(), 4);
 }
 
+TEST_F(TableModelTest, leavesNoListenerBehindWhenItGoes)
+{
+    const std::size_t before = view.listenerCount();
+    for (int i = 0; i < 100; ++i)
+        const TableViewModel passing(view, calendar);
+    view.reloadData();
+    EXPECT_LE(view.listenerCount(), before + 1); // the last one is counted until another comes
+}
+
 TEST_F(TableModelTest, keepsQtsRulesUnderChangesFiltersAndSorting)
 {
     QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
