@@ -2,9 +2,12 @@
 
 #include "catalogs/measurement_view.h"
 #include "catalogs/property_journal_view.h"
+#include "core/localized.h"
 #include "documents/document_journal_view.h"
 #include "period/balance_view.h"
+#include "print/print_account_report.h"
 #include "print/print_balance.h"
+#include "print/print_contragents_report.h"
 #include "print/print_expense.h"
 #include "print/print_fixed_assets.h"
 #include "print/print_journal.h"
@@ -12,6 +15,9 @@
 #include "print/print_payment_calendar.h"
 #include "print/print_period_sell.h"
 #include "print/print_products_on_stock.h"
+#include "reports/contragent_report_view.h"
+#include "reports/contragents_report_view.h"
+#include "reports/employee_account_report_view.h"
 #include "reports/expend_report_view.h"
 #include "reports/payment_calendar_view.h"
 #include "reports/period_sell_report_view.h"
@@ -34,6 +40,34 @@ std::unique_ptr<TableForm> formOf(const PeriodSellReportView& view, AppDelegate&
     takePeriod(*form, view);
     form->reportBy = view.reportBy();
     form->groupedBy = view.groupedBy();
+    return form;
+}
+
+std::unique_ptr<TableForm> formOf(const ContragentsReportView& view, AppDelegate& appDelegate)
+{
+    // As the tab says it, without the dates.
+    const QString selected = localized("Report by Selected Counterparties.");
+    auto form = std::make_unique<PrintContragentsReport>(
+        appDelegate,
+        view.name().startsWith(selected) ? selected : localized("Report by All Counterparties."));
+    takePeriod(*form, view);
+    form->target = view.target();
+    return form;
+}
+
+std::unique_ptr<TableForm> formOf(const ContragentReportView& view, AppDelegate& appDelegate)
+{
+    auto form = std::make_unique<PrintContragentReport>(appDelegate, localized("Report by Counterparty"));
+    takePeriod(*form, view);
+    form->target = view.target();
+    return form;
+}
+
+std::unique_ptr<TableForm> formOf(const EmployeeAccountReportView& view, AppDelegate& appDelegate)
+{
+    auto form = std::make_unique<PrintAccountReport>(appDelegate, view.reportType == u"employee");
+    takePeriod(*form, view);
+    form->target = view.target();
     return form;
 }
 
@@ -113,7 +147,8 @@ std::unique_ptr<PrintView> formAmong(const BaseView& view, AppDelegate& appDeleg
 std::unique_ptr<PrintView> makePrintForm(const BaseView& view, AppDelegate& appDelegate)
 {
     std::unique_ptr<PrintView> form =
-        formAmong<PeriodSellReportView, ExpendReportView, ProductsOnStockReportView, PaymentCalendarView,
+        formAmong<PeriodSellReportView, ContragentsReportView, ContragentReportView,
+                  EmployeeAccountReportView, ExpendReportView, ProductsOnStockReportView, PaymentCalendarView,
                   DocumentJournalView, BalanceView, PropertyJournalView, MeasurementView>(view, appDelegate);
     if (form)
         form->setData();

@@ -7,13 +7,20 @@
 #include "catalogs/property_journal_view_controller.h"
 #include "documents/document_journal_view_controller.h"
 #include "period/balance_view_controller.h"
+#include "print/print_account_report.h"
 #include "print/print_balance.h"
+#include "print/print_contragents_report.h"
 #include "print/print_expense.h"
 #include "print/print_fixed_assets.h"
 #include "print/print_journal.h"
 #include "print/print_measurement.h"
+#include "print/print_payment_calendar.h"
 #include "print/print_period_sell.h"
+#include "reports/contragent_report_view_controller.h"
+#include "reports/contragents_report_view_controller.h"
+#include "reports/employee_account_report_view_controller.h"
 #include "reports/expend_report_view_controller.h"
+#include "reports/payment_calendar_view_controller.h"
 #include "reports/period_sell_report_view_controller.h"
 #include "support/books.h"
 
@@ -173,6 +180,107 @@ TEST_F(PrintForms, TheSpendingsArePrintedWithTheirDocuments)
     EXPECT_EQ(column(*form, 3), (QStringList{u""_s, u""_s, u""_s}));
     EXPECT_EQ(column(*form, 5), (QStringList{u""_s, u"of March"_s, u""_s}));
     EXPECT_TRUE(form->rows()[2].isGathering);
+}
+
+TEST_F(PrintForms, TheCounterpartiesArePrintedWithWhatTheyOwed)
+{
+    const auto moor = books.contragent(u"Moor"_s, 40);
+    books.contragent(u"Fen"_s, 2.5);
+    ContragentsReportViewController report(books.appDelegate);
+    report.prepareData();
+    report.prepareReport();
+    const auto form = formOf<PrintContragentsReport>(report.mainView);
+    EXPECT_EQ(form->title, u"Report by All Counterparties."_s);
+    EXPECT_EQ(form->target, u"All Counterparties"_s);
+    EXPECT_EQ(form->start, report.dateFrom.moment());
+    EXPECT_EQ(form->finish, report.dateTo.moment());
+    EXPECT_EQ(column(*form, 0), (QStringList{u"START PERIOD:"_s, u"Fen"_s, u"Moor"_s, u"END PERIOD:"_s}));
+    EXPECT_EQ(column(*form, 1), (QStringList{u"42.50"_s, u"2.50"_s, u"40.00"_s, u"42.50"_s}));
+    EXPECT_EQ(column(*form, 4).last(), u"42.50"_s);
+    EXPECT_TRUE(form->rows().front().isGathering);
+    EXPECT_FALSE(form->rows()[1].isGathering);
+
+    report.setContragentIDs({moor->id});
+    report.setStringPredicates();
+    report.prepareReport();
+    const auto selected = formOf<PrintContragentsReport>(report.mainView);
+    EXPECT_EQ(selected->title, u"Report by Selected Counterparties."_s);
+    EXPECT_EQ(selected->target, u"Selected Counterparties"_s);
+    EXPECT_EQ(selected->rows().size(), 3);
+}
+
+TEST_F(PrintForms, AStatementNamesItsCounterpartyAndNumbersTheDocuments)
+{
+    const auto moor = books.contragent(u"Moor"_s, 40);
+    MoneyDocument payment;
+    payment.insertDocType(DocType::MoneyFromContragent);
+    payment.insertContragent(moor);
+    payment.date = dayBefore();
+    payment.setDocSum(100);
+    payment.confirmed = true;
+    books.store(payment);
+    ContragentReportViewController report(books.appDelegate);
+    report.prepareData();
+    ASSERT_TRUE(report.openReport(moor->id, dayBefore() - 1, dayBefore() + 1));
+    const auto form = formOf<PrintContragentReport>(report.mainView);
+    EXPECT_EQ(form->title, u"Report by Counterparty"_s);
+    EXPECT_EQ(form->target, u"Moor"_s);
+    EXPECT_EQ(form->start, dayBefore() - 1);
+    EXPECT_EQ(form->finish, dayBefore() + 1);
+    EXPECT_EQ(column(*form, 0), (QStringList{u""_s, u"1"_s, u""_s}));
+    EXPECT_EQ(column(*form, 1), (QStringList{u""_s, u"11/13/23"_s, u""_s}));
+    EXPECT_EQ(column(*form, 5), (QStringList{u"0.00"_s, u"100.00"_s, u"100.00"_s}));
+    EXPECT_EQ(column(*form, 3).last(), u""_s);
+    EXPECT_EQ(column(*form, 6).first(), u""_s);
+    EXPECT_EQ(column(*form, 6).last(), u"100.00"_s);
+}
+
+TEST_F(PrintForms, AStatementOfMoneyIsOfAnEmployeeOrOfAnAccount)
+{
+    const auto ann = books.employee(u"Ann"_s, 12);
+    const auto till = books.account(u"Till"_s, 250);
+    EmployeeAccountReportViewController ofEmployee(books.appDelegate, u"employee"_s);
+    ofEmployee.prepareData();
+    ofEmployee.select.selectTag(ann->id);
+    ofEmployee.prepareReport();
+    const auto employee = formOf<PrintAccountReport>(ofEmployee.mainView);
+    EXPECT_EQ(employee->title, u"Report by Employee"_s);
+    EXPECT_EQ(employee->target, u"Ann"_s);
+    EXPECT_EQ(column(*employee, 2), (QStringList{u"START PERIOD:"_s, u"END PERIOD:"_s}));
+    EXPECT_EQ(column(*employee, 6).last(), u"12.00"_s);
+
+    EmployeeAccountReportViewController ofAccount(books.appDelegate, u"account"_s);
+    ofAccount.prepareData();
+    ofAccount.select.selectTag(till->id);
+    ofAccount.prepareReport();
+    const auto account = formOf<PrintAccountReport>(ofAccount.mainView);
+    EXPECT_EQ(account->title, u"Report by Account"_s);
+    EXPECT_EQ(account->target, u"Till"_s);
+}
+
+TEST_F(PrintForms, ThePaymentCalendarIsOfToday)
+{
+    const auto moor = books.contragent(u"Moor"_s);
+    ProductDocument sale;
+    sale.insertDocType(DocType::SellProduct);
+    sale.insertContragent(moor);
+    sale.date = dayBefore();
+    sale.payToDate = books.clock.now() + secondsPerDay;
+    sale.setDocSum(90);
+    sale.setLeftToPay(30);
+    sale.confirmed = true;
+    books.store(sale);
+    PaymentCalendarViewController calendar(books.appDelegate);
+    calendar.prepareReport();
+    const auto form = formOf<PrintPaymentCalendar>(calendar.mainView);
+    EXPECT_EQ(form->date, books.clock.now());
+    ASSERT_EQ(form->rows().size(), 3);
+    EXPECT_TRUE(column(*form, 1).front().endsWith(u"(Moor)"_s));
+    EXPECT_EQ(column(*form, 0), (QStringList{u"11/13/23"_s, u""_s, u""_s}));
+    EXPECT_EQ(column(*form, 2), (QStringList{u"90.00"_s, u""_s, u""_s}));
+    EXPECT_EQ(column(*form, 3), (QStringList{u"11/15/23"_s, u""_s, u""_s}));
+    EXPECT_EQ(column(*form, 4), (QStringList{u"30.00"_s, u"30.00"_s, u"30.00"_s}));
+    EXPECT_EQ(column(*form, 5), (QStringList{u""_s, u""_s, u""_s}));
 }
 
 } // namespace zelvor

@@ -16,7 +16,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <numeric>
+#include <ostream>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -35,6 +35,12 @@ struct Case {
     std::vector<double> colWidth;
     QStringList titles;
 };
+
+// What a failed test tells of its case.
+void PrintTo(const Case& tested, std::ostream* out)
+{
+    *out << tested.name;
+}
 
 template <class Form, class... Arguments>
 std::function<std::unique_ptr<TableForm>(AppDelegate&)> maker(Arguments... arguments)
