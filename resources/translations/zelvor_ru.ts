@@ -2025,6 +2025,10 @@ or Open Existing… for a project file that you have.</source>
         <translation>Отчёт по всем расходам.</translation>
     </message>
     <message>
+        <source>Report by Counterparty</source>
+        <translation>Отчёт по контрагенту</translation>
+    </message>
+    <message>
         <source>Report by Employee</source>
         <translation>Отчёт по сотруднику</translation>
     </message>
