@@ -367,7 +367,7 @@ void PrintInvoice::drawBankLines(Canvas& canvas, double top) const
     double y = top;
     for (const auto& [label, value] : bankLines()) {
         y -= bankLine;
-        canvas.text({left, y}, label, smallBoldFont, blackColor);
+        canvas.text({left, y}, label, smallFont, blackColor);
         canvas.text({valueLeft, y}, value, smallFont, blackColor);
     }
 }
