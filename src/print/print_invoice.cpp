@@ -17,15 +17,17 @@ namespace zelvor {
 
 namespace {
 
-constexpr double left = 10;        // of the texts at the sheet's left
-constexpr double tableLeft = 1.5;  // and as much at its right
-constexpr double tableLine = 15;   // height of the head and of a line of a row
-constexpr double sumLine = 12;     // from sum to sum
-constexpr double bankLine = 8;     // from line to line of the bank details
-constexpr double firstSum = 30;    // below the point where the totals begin
-constexpr double totalsBegin = 10; // above the end of the table
-constexpr double paymentGap = 40;  // from the last sum to the line of thanks
-constexpr double bankRise = 36;    // of the bank details into that gap
+constexpr double left = 10;         // of the texts at the sheet's left
+constexpr double tableLeft = 1.5;   // and as much at its right
+constexpr double tableLine = 15;    // height of the head and of a line of a row
+constexpr double cellInset = 2;     // of a text that stands at a side of its column
+constexpr double sumLine = 12;      // from sum to sum
+constexpr double sumLabelsEnd = 90; // from the sheet's right
+constexpr double bankLine = 8;      // from line to line of the bank details
+constexpr double firstSum = 30;     // below the point where the totals begin
+constexpr double totalsBegin = 10;  // above the end of the table
+constexpr double paymentGap = 40;   // from the last sum to the line of thanks
+constexpr double bankRise = 36;     // of the bank details into that gap
 
 using Column = PrintInvoice::Column;
 
@@ -61,11 +63,10 @@ CellAlignment alignmentOf(const QString& identifier)
 // The x of a text of that width in its column.
 double cellLeft(const Column& column, CellAlignment alignment, double width)
 {
-    constexpr double inset = 2;
     if (alignment == CellAlignment::Left)
-        return column.centre - column.width / 2 + inset;
+        return column.centre - column.width / 2 + cellInset;
     if (alignment == CellAlignment::Right)
-        return column.centre + column.width / 2 - inset - width;
+        return column.centre + column.width / 2 - cellInset - width;
     return column.centre - width / 2;
 }
 
@@ -185,9 +186,11 @@ double PrintInvoice::tableTop() const
 void PrintInvoice::drawInvoiceTitles(Canvas& canvas, const QPointF& point)
 {
     constexpr double labelShift = 80;
+    const double room = frame().width() - point.x();
     for (const TitleLine& line : titleLines()) {
         canvas.text(point - QPointF(labelShift, line.depth), line.label, titlesFont, titlesColor);
-        canvas.text(point - QPointF(0, line.depth), line.value, invoiceDataFont, blackColor);
+        canvas.text(point - QPointF(0, line.depth), line.value,
+                    fittingFont(line.value, invoiceDataFont, room), blackColor);
     }
     tableStartPoint = QPointF(tableLeft, tableTop());
 }
@@ -222,9 +225,10 @@ void PrintInvoice::drawTable(Canvas& canvas)
 
 void PrintInvoice::drawTableHead(Canvas& canvas, double top) const
 {
-    const QFont& font = titles.size() == tenColumns.size() ? smallColumnTitleFont : colTitleFont;
+    const QFont& wanted = titles.size() == tenColumns.size() ? smallColumnTitleFont : colTitleFont;
     canvas.fill({tableLeft, top - tableLine, frame().width() - 2 * tableLeft, tableLine}, titleColor);
     for (std::size_t i = 0; i < std::min(titles.size(), columns.size()); ++i) {
+        const QFont font = fittingFont(titles[i].title, wanted, columns[i].width - 2);
         const QSizeF size = textSize(titles[i].title, font);
         canvas.text({columns[i].centre - size.width() / 2, top - 2 - size.height()}, titles[i].title, font,
                     whiteColor);
@@ -254,9 +258,9 @@ void PrintInvoice::drawRow(Canvas& canvas, const ProductDocumentRow& row, int nu
         const bool isName = identifier == "name"_L1;
         double y = firstLine;
         for (const QString& line : isName ? nameLines(row) : QStringList{cellText(row, number, identifier)}) {
-            const double width = textSize(line, colDataFont).width();
-            canvas.text({cellLeft(columns[i], alignmentOf(identifier), width), y}, line, colDataFont,
-                        blackColor);
+            const QFont font = fittingFont(line, colDataFont, columns[i].width - cellInset);
+            const double width = textSize(line, font).width();
+            canvas.text({cellLeft(columns[i], alignmentOf(identifier), width), y}, line, font, blackColor);
             y -= tableLine;
         }
     }
@@ -338,7 +342,7 @@ void PrintInvoice::drawTotals(Canvas& canvas, double top)
     for (const auto& [label, value] : sumLines()) {
         const double labelWidth = textSize(label, titlesFont).width();
         const double valueWidth = textSize(value, invoiceDataFont).width();
-        canvas.text({right - 90 - labelWidth, y}, label, titlesFont, titlesColor);
+        canvas.text({right - sumLabelsEnd - labelWidth, y}, label, titlesFont, titlesColor);
         canvas.text({right - valueWidth - 4, y}, value, invoiceDataFont, blackColor);
         y -= sumLine;
     }
@@ -349,11 +353,24 @@ void PrintInvoice::drawTotals(Canvas& canvas, double top)
                 titleColor);
 }
 
+// Where the labels of the sums begin: the payment lines end before them.
+double PrintInvoice::sumsLeft() const
+{
+    double widest = 0;
+    for (const auto& [label, value] : sumLines())
+        widest = std::max(widest, textSize(label, titlesFont).width());
+    return frame().width() - sumLabelsEnd - widest;
+}
+
 void PrintInvoice::drawPaymentLines(Canvas& canvas, double bottom) const
 {
+    const double room = sumsLeft() - left - 4;
     const auto line = [&](double y, const QString& words, const QString& rest) {
-        canvas.text({left, y}, words, smallBoldFont, blackColor);
-        canvas.text({left + textSize(words, smallBoldFont).width(), y}, rest, smallFont, blackColor);
+        const QFont bold = fittingFont(words + rest, smallBoldFont, room); // which is the wider one
+        QFont plain(smallFont);
+        plain.setPixelSize(bold.pixelSize());
+        canvas.text({left, y}, words, bold, blackColor);
+        canvas.text({left + textSize(words, bold).width(), y}, rest, plain, blackColor);
     };
     line(bottom + 62, localized("Make all checks payable to "), params->companyName + u'.');
     line(bottom + 54, localized("If you have any questions concerning this invoice, phone: "),

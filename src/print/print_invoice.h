@@ -64,6 +64,7 @@ private:
     QPointF titlePoint() const;
     double tableTop() const;
     double rowHeightOf(const ProductDocumentRow& row) const;
+    double sumsLeft() const;
     double sumsDepth() const;
     double thanksDepth() const;
     bool fitsSheet() const;

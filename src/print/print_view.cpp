@@ -69,6 +69,15 @@ QStringList PrintView::splitRow(const QString& text, double width) const
     return result;
 }
 
+QFont PrintView::fittingFont(const QString& text, const QFont& font, double width) const
+{
+    constexpr int smallest = 4;
+    QFont fitting(font);
+    while (fitting.pixelSize() > smallest && textSize(text, fitting).width() > width)
+        fitting.setPixelSize(fitting.pixelSize() - 1);
+    return fitting;
+}
+
 QString PrintView::numberText(const Decimal& value)
 {
     return exportNumberText(value, QLocale());

@@ -557,6 +557,25 @@ TEST_F(InvoiceForm, ofAnOpenFormShowsWhatIsTypedIntoIt)
     EXPECT_EQ(plain->document->payToDate, document->date + 3 * secondsPerDay);
 }
 
+TEST_F(InvoiceForm, whatIsTooWideIsDrawnSmallerAndReadsWhole)
+{
+    customer->name = u"Nobody & Daughters, Wholesale of Bicycles and Parts"_s;
+    document->withVAT = true;
+    addRow(u"Donaudampfschifffahrtsgesellschaftskapitän"_s, 1'234'567, 1234.5, 20);
+    sums(1);
+    settings([](Params& params) { params.companyMail = u"accounts.department@company.example"_s; });
+    ZELVOR_NEEDS_PDF_TOOLS();
+    const PrintedPages pages = print();
+    const PrintedWord parts = pages.word(u"Parts"_s);
+    EXPECT_LE(parts.right, 523);
+    EXPECT_NEAR(parts.bottom, pages.word(u"BILL"_s).bottom, 0.6);
+    EXPECT_LE(pages.word(u"Donaudampfschifffahrtsgesellschaftskapitän"_s).right, 21.5 + 140);
+    EXPECT_GE(pages.word(u"567.00"_s).right, 200); // 1 234 567.00 within its 45 points
+    EXPECT_LE(pages.word(u"567.00"_s).right, 214 + 22.5);
+    // "If you have any questions ...", up to the label of the second sum.
+    EXPECT_LT(pages.word(u"accounts.department@company.example."_s).right, pages.word(u"SUBTOTAL"_s).left);
+}
+
 TEST_F(InvoiceForm, namesInCyrillicCanBeSelected)
 {
     customer->name = u"ООО «Ромашка»"_s;
