@@ -15,6 +15,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int indentOfALevel = 6;
+// A sum that begins with the scale of what it gets takes the fast road.
+constexpr Decimal nothing = Decimal::fromParts(0, ReportStockRow::decimalHandler.scale);
 
 // The figures of one cell; one that is 0 stays empty.
 QString figuresText(std::initializer_list<Decimal> figures)
@@ -37,7 +39,7 @@ QString captionText(const QString& caption, const QStringList& figures)
 
 Decimal ReportStockRow::amountTotal() const
 {
-    Decimal total;
+    Decimal total = nothing;
     for (const StockData& stock : stocks)
         total = total.plus(stock.amount, decimalHandler);
     return total;
@@ -45,7 +47,7 @@ Decimal ReportStockRow::amountTotal() const
 
 Decimal ReportStockRow::sumTotal() const
 {
-    Decimal total;
+    Decimal total = nothing;
     for (const StockData& stock : stocks)
         total = total.plus(stock.sum, decimalHandler);
     return total;
