@@ -117,7 +117,7 @@ QByteArray listReports()
 {
     QByteArray text = "Reports and their options:\n";
     for (const Report* report : reports())
-        text += "  " + QByteArray(report->name).leftJustified(13) + report->details + '\n';
+        text += "  " + (QByteArray(report->name) + ' ').leftJustified(13) + report->details + '\n';
     return text;
 }
 
