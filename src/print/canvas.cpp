@@ -114,7 +114,7 @@ void Canvas::stroke(const Path& path, const Color& color)
     m_painter.setPen(pen);
     const double half = path.lineWidth / 2;
     for (const Path::Line& line : path.lines) {
-        const auto [bottom, top] = std::minmax(line.from.y(), line.to.y());
+        const auto [bottom, top] = std::minmax({line.from.y(), line.to.y()});
         if (!shows(bottom - half, top + half))
             continue;
         const Path::Line part = visiblePart(line, path);
