@@ -38,6 +38,8 @@ public:
     bool shows(double bottom, double top) const;
     void fill(const QRectF& rect, const Color& color);
     void text(const QPointF& point, const QString& text, const QFont& font, const Color& color);
+    // The box of a line of text, points; quick, as the fonts are measured already.
+    QSizeF textSize(const QString& text, const QFont& font) const { return m_faces.textSize(text, font); }
     void image(const QRectF& rect, const QImage& image);
 
     // Pieces of straight line, gathered and stroked at once.

@@ -104,10 +104,11 @@ QSizeF chartSize(const ChartView& chart)
 {
     const Decimal sum = sumOfTotals(chart);
     double width = pieSize;
+    FontFaces faces;
     for (const QString& key : chart.keys) {
         const Legend legend = legendOf(key, chart.data.at(key), sum);
-        width = std::max({width, legendX + textSize(legend.share, legendFont()).width(),
-                          legendX + textSize(legend.parts, smallLegendFont()).width()});
+        width = std::max({width, legendX + faces.textSize(legend.share, legendFont()).width(),
+                          legendX + faces.textSize(legend.parts, smallLegendFont()).width()});
     }
     const auto slices = static_cast<double>(chart.keys.size());
     return {width + 10, std::max(pieSize, slices * legendStep + 20)};

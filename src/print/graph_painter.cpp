@@ -63,7 +63,7 @@ private:
     void drawValue(double value, double y)
     {
         const QString text = wholeNumberText(Decimal::fromDouble(value));
-        const QSizeF size = textSize(text, m_font);
+        const QSizeF size = m_canvas.textSize(text, m_font);
         m_canvas.text({axisX - 5 - size.width(), y - size.height() / 2}, text, m_font, blackColor);
     }
 
@@ -75,7 +75,7 @@ private:
         if (month % m_scale.labelEvery != 0)
             return;
         const QString text = m_graph.label(m_graph.dates[month]);
-        const QSizeF size = textSize(text, m_font);
+        const QSizeF size = m_canvas.textSize(text, m_font);
         m_canvas.text({monthX(month) - size.width() / 2, axisY - 2 - size.height()}, text, m_font,
                       blackColor);
     }

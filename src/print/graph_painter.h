@@ -14,8 +14,7 @@ struct GraphScale {
 
 // The width that the graph takes, for whoever scrolls it.
 double graphWidth(const GraphView& graph, const GraphScale& scale = {});
-// Draws the graph with its lower left corner at the origin of the canvas. A painter that knows no
-// antialiasing draws it jagged: that is the caller's to ask for.
+// Draws the graph with its lower left corner at the origin of the canvas.
 void drawGraph(const GraphView& graph, Canvas& canvas, const QSizeF& size, const GraphScale& scale = {});
 
 } // namespace zelvor
