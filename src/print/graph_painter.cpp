@@ -8,6 +8,8 @@ namespace {
 
 constexpr double axisX = 70;
 constexpr double axisY = 50;
+constexpr double valueRight = 65; // the right edge of the values beside the upright axis
+constexpr int smallestFont = 4;
 constexpr double unscaledHeight = 100; // below and above the scale
 constexpr double rightMargin = 30;     // behind the last month
 constexpr double hairline = 0.2;
@@ -63,8 +65,13 @@ private:
     void drawValue(double value, double y)
     {
         const QString text = wholeNumberText(Decimal::fromDouble(value));
-        const QSizeF size = m_canvas.textSize(text, m_font);
-        m_canvas.text({axisX - 5 - size.width(), y - size.height() / 2}, text, m_font, blackColor);
+        QFont font = m_font;
+        QSizeF size = m_canvas.textSize(text, font);
+        while (size.width() > valueRight && font.pixelSize() > smallestFont) { // billions
+            font.setPixelSize(font.pixelSize() - 1);
+            size = m_canvas.textSize(text, font);
+        }
+        m_canvas.text({valueRight - size.width(), y - size.height() / 2}, text, font, blackColor);
     }
 
     void drawMonth(std::size_t month)
@@ -76,8 +83,9 @@ private:
             return;
         const QString text = m_graph.label(m_graph.dates[month]);
         const QSizeF size = m_canvas.textSize(text, m_font);
-        m_canvas.text({monthX(month) - size.width() / 2, axisY - 2 - size.height()}, text, m_font,
-                      blackColor);
+        const double left = monthX(month) - size.width() / 2;
+        if (left + size.width() <= m_right) // the last one of a squeezed graph may have no room
+            m_canvas.text({left, axisY - 2 - size.height()}, text, m_font, blackColor);
     }
 
     void drawRow(const DynamicsReportRow& row)

@@ -13,11 +13,11 @@ namespace {
 
 constexpr double sheetWidth = 750; // that is drawn on
 constexpr double leftEdge = 1;
-constexpr double pageHeight = 505; // of landscape A4 between its margins
-constexpr double headingBottom = 45;
-constexpr double legendBottom = 66; // below the top of the sheet, as the two that follow
-constexpr double graphTop = 72;
+constexpr double pageHeight = 505;   // of landscape A4 between its margins
+constexpr double headingBottom = 45; // below the top of the sheet
+constexpr double graphTop = 52;
 constexpr double graphHeight = 240;
+constexpr double emptyBelowGraph = 30; // of its height, under the labels of the months
 constexpr double lineHeight = 15;
 constexpr double bandGap = 12;
 constexpr double textInset = 6;
@@ -81,10 +81,19 @@ double PrintDynamics::heightOfBand() const
     return lineHeight + static_cast<double>(m_graph.reportRows.size()) * (lineHeight + 1);
 }
 
+double PrintDynamics::widthOf(const Band& band) const
+{
+    double width = m_nameWidth;
+    for (std::size_t month = band.first; month < band.end; ++month)
+        width += m_figureWidth + changeWidth(month);
+    return width;
+}
+
 void PrintDynamics::placeBands()
 {
     m_bands.clear();
-    double top = delta + (m_graph.dates.empty() ? graphTop : graphTop + graphHeight + bandGap);
+    double top =
+        delta + (m_graph.dates.empty() ? graphTop : graphTop + graphHeight - emptyBelowGraph + bandGap);
     for (std::size_t first = 0; first < m_graph.dates.size(); first += m_monthsOfABand) {
         const double edge = pageHeight * std::ceil(top / pageHeight);
         if (top + heightOfBand() > edge)
@@ -92,7 +101,7 @@ void PrintDynamics::placeBands()
         m_bands.push_back({first, std::min(first + m_monthsOfABand, m_graph.dates.size()), top});
         top += heightOfBand() + bandGap;
     }
-    setFrame({landscape.width(), top});
+    setFrame({landscape.width(), m_bands.empty() ? top : top - bandGap + 1});
 }
 
 QString PrintDynamics::heading() const
@@ -125,7 +134,7 @@ void PrintDynamics::drawRect(Canvas& canvas)
                 dataFont, blackColor);
     if (m_graph.dates.empty())
         return;
-    drawLegend(canvas, top - legendBottom);
+    drawLegend(canvas, top - headingBottom);
     const QPointF corner(0, top - graphTop - graphHeight);
     if (canvas.shows(corner.y(), corner.y() + graphHeight)) {
         Canvas part = canvas.movedTo(corner);
@@ -164,9 +173,7 @@ void PrintDynamics::drawBand(Canvas& canvas, const Band& band) const
 
 void PrintDynamics::drawTitles(Canvas& canvas, const Band& band, double bottom) const
 {
-    const double monthWidth = m_figureWidth + m_changeWidth;
-    const auto months = static_cast<double>(band.end - band.first);
-    canvas.fill(QRectF(leftEdge, bottom, m_nameWidth + months * monthWidth, lineHeight), titleColor);
+    canvas.fill(QRectF(leftEdge, bottom, widthOf(band), lineHeight), titleColor);
     const auto draw = [&](const QString& text, double centre) {
         const QSizeF size = textSize(text, colTitleFont);
         canvas.text({centre - size.width() / 2, bottom + lineHeight - 2 - size.height()}, text, colTitleFont,
@@ -176,9 +183,10 @@ void PrintDynamics::drawTitles(Canvas& canvas, const Band& band, double bottom) 
     double left = leftEdge + m_nameWidth;
     for (std::size_t month = band.first; month < band.end; ++month) {
         draw(m_monthTitles[static_cast<qsizetype>(month)], left + m_figureWidth / 2);
+        left += m_figureWidth;
         if (month > 0)
-            draw(u"%"_s, left + m_figureWidth + m_changeWidth / 2);
-        left += monthWidth;
+            draw(u"%"_s, left + m_changeWidth / 2);
+        left += changeWidth(month);
     }
 }
 
@@ -204,7 +212,7 @@ void PrintDynamics::drawRow(Canvas& canvas, const Band& band, const DynamicsRepo
     for (std::size_t month = band.first; month < band.end; ++month) {
         right += m_figureWidth;
         drawCell(canvas, figure(row, month), right, bottom + rise);
-        right += m_changeWidth;
+        right += changeWidth(month);
         drawCell(canvas, change(row, month), right, bottom + rise);
     }
 }
@@ -219,8 +227,7 @@ void PrintDynamics::drawCell(Canvas& canvas, const Cell& cell, double right, dou
 void PrintDynamics::drawLines(Canvas& canvas, const Band& band, double top) const
 {
     const double bottom = top - heightOfBand();
-    const double monthWidth = m_figureWidth + m_changeWidth;
-    const double right = leftEdge + m_nameWidth + static_cast<double>(band.end - band.first) * monthWidth;
+    const double right = leftEdge + widthOf(band);
     Canvas::Path path{.lineWidth = 0.2};
     double y = top - lineHeight;
     for (std::size_t row = 0; row < m_graph.reportRows.size(); ++row) {
@@ -231,8 +238,10 @@ void PrintDynamics::drawLines(Canvas& canvas, const Band& band, double top) cons
     double x = leftEdge + m_nameWidth;
     for (std::size_t month = band.first; month < band.end; ++month) {
         path.add({x, top}, {x, bottom});
-        path.add({x + m_figureWidth, top}, {x + m_figureWidth, bottom});
-        x += monthWidth;
+        x += m_figureWidth;
+        if (month > 0)
+            path.add({x, top}, {x, bottom});
+        x += changeWidth(month);
     }
     path.add({right, top}, {right, bottom});
     canvas.stroke(path, tableBorderColor);

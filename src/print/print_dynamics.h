@@ -34,6 +34,8 @@ private:
     void measureColumns();
     void placeBands();
     double heightOfBand() const;
+    double changeWidth(std::size_t month) const { return month > 0 ? m_changeWidth : 0; }
+    double widthOf(const Band& band) const;
     GraphScale graphScale() const;
     QString heading() const;
     Cell figure(const DynamicsReportRow& row, std::size_t month) const;

@@ -8,6 +8,7 @@
 #include "print/print_account_report.h"
 #include "print/print_balance.h"
 #include "print/print_contragents_report.h"
+#include "print/print_dynamics.h"
 #include "print/print_expense.h"
 #include "print/print_fixed_assets.h"
 #include "print/print_journal.h"
@@ -150,6 +151,9 @@ std::unique_ptr<PrintView> makePrintForm(const BaseView& view, AppDelegate& appD
         formAmong<PeriodSellReportView, ContragentsReportView, ContragentReportView,
                   EmployeeAccountReportView, ExpendReportView, ProductsOnStockReportView, PaymentCalendarView,
                   DocumentJournalView, BalanceView, PropertyJournalView, MeasurementView>(view, appDelegate);
+    // The one form that is no single table.
+    if (const auto* dynamics = dynamic_cast<const DynamicsReportView*>(&view))
+        form = std::make_unique<PrintDynamics>(appDelegate, *dynamics);
     if (form)
         form->setData();
     return form;
