@@ -1,5 +1,6 @@
 #include "online/http_exchange.h"
 
+#include <QtCore/QDeadlineTimer>
 #include <QtCore/QTimer>
 #include <QtNetwork/QHostAddress>
 #include <QtNetwork/QNetworkAccessManager>
@@ -27,10 +28,11 @@ bool isThisMachine(const QString& host)
                                                        address.isInSubnet(QHostAddress(u"127.0.0.0"_s), 8)));
 }
 
-QNetworkRequest plainRequest(const QUrl& url, QNetworkRequest::RedirectPolicy redirects)
+QNetworkRequest plainRequest(const QUrl& url)
 {
     QNetworkRequest request(url);
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, redirects);
+    // Followed here: the manager knows no rule for a redirect's address, and asks more than once for one.
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
     request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
@@ -46,10 +48,12 @@ QNetworkRequest plainRequest(const QUrl& url, QNetworkRequest::RedirectPolicy re
 } // namespace
 
 struct HttpExchange::Exchange {
-    QNetworkReply* reply;
     Handler ended;
-    QByteArray body = {};
+    QDeadlineTimer deadline;
+    bool isPost = false;
     int redirects = 0;
+    QNetworkReply* reply = nullptr;
+    QByteArray body = {};
 
     void receive()
     {
@@ -62,12 +66,14 @@ struct HttpExchange::Exchange {
         if (reply->header(QNetworkRequest::ContentLengthHeader).toLongLong() > largestBody)
             reply->abort();
     }
-    void followWithinTheRule(const QUrl& target)
+    // Where the answer sends on to, within the rule; an invalid address when it does not, or may not.
+    QUrl redirectTarget() const
     {
-        if (++redirects <= mostRedirects && target.scheme() == reply->url().scheme() && mayBeAsked(target))
-            Q_EMIT reply->redirectAllowed();
-        else
-            reply->abort();
+        const QVariant location = reply->attribute(QNetworkRequest::RedirectionTargetAttribute);
+        const QUrl target = reply->url().resolved(location.toUrl());
+        const bool follows = !isPost && location.isValid() && redirects < mostRedirects &&
+                             target.scheme() == reply->url().scheme() && mayBeAsked(target);
+        return follows ? target : QUrl();
     }
 };
 
@@ -101,7 +107,8 @@ bool HttpExchange::get(const QUrl& url, Handler ended)
 {
     if (!mayBeAsked(url))
         return false;
-    watch(manager().get(plainRequest(url, QNetworkRequest::UserVerifiedRedirectPolicy)), std::move(ended));
+    ++m_pending;
+    ask(std::make_shared<Exchange>(Exchange{std::move(ended), QDeadlineTimer(m_timeout)}), url);
     return true;
 }
 
@@ -109,40 +116,53 @@ bool HttpExchange::post(const QUrl& url, const QByteArray& form, Handler ended)
 {
     if (!mayBeAsked(url))
         return false;
-    QNetworkRequest request = plainRequest(url, QNetworkRequest::ManualRedirectPolicy);
+    ++m_pending;
+    const auto exchange =
+        std::make_shared<Exchange>(Exchange{std::move(ended), QDeadlineTimer(m_timeout), true});
+    QNetworkRequest request = plainRequest(url);
     request.setHeader(QNetworkRequest::ContentTypeHeader, u"application/x-www-form-urlencoded"_s);
-    watch(manager().post(request, form), std::move(ended));
+    exchange->reply = manager().post(request, form);
+    watch(exchange);
     return true;
 }
 
-void HttpExchange::watch(QNetworkReply* reply, Handler ended)
+void HttpExchange::ask(const std::shared_ptr<Exchange>& exchange, const QUrl& url)
 {
-    ++m_pending;
-    const auto exchange = std::make_shared<Exchange>(Exchange{reply, std::move(ended)});
+    exchange->reply = manager().get(plainRequest(url));
+    watch(exchange);
+}
+
+void HttpExchange::watch(const std::shared_ptr<Exchange>& exchange)
+{
+    QNetworkReply* const reply = exchange->reply;
     QNetworkAccessManager* const context = m_manager.get();
     reply->setReadBufferSize(largestBody + 1);
     QObject::connect(reply, &QNetworkReply::metaDataChanged, context,
                      [exchange] { exchange->checkAnnouncedSize(); });
     QObject::connect(reply, &QNetworkReply::readyRead, context, [exchange] { exchange->receive(); });
-    QObject::connect(reply, &QNetworkReply::redirected, context,
-                     [exchange](const QUrl& target) { exchange->followWithinTheRule(target); });
-    QObject::connect(reply, &QNetworkReply::finished, context, [this, exchange] { end(*exchange); });
-    QTimer::singleShot(m_timeout, reply, [reply] { reply->abort(); });
+    QObject::connect(reply, &QNetworkReply::finished, context, [this, exchange] { end(exchange); });
+    QTimer::singleShot(static_cast<int>(exchange->deadline.remainingTime()), reply,
+                       [reply] { reply->abort(); });
 }
 
-void HttpExchange::end(Exchange& exchange)
+void HttpExchange::end(const std::shared_ptr<Exchange>& exchange)
 {
-    --m_pending;
-    QNetworkReply& reply = *exchange.reply;
+    QNetworkReply& reply = *exchange->reply;
     reply.disconnect(m_manager.get());
     reply.deleteLater();
-    Reply result{reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt(),
-                 reply.error() == QNetworkReply::NoError};
-    if (result.whole)
-        result.body = exchange.body + reply.readAll();
-    const Handler ended = std::move(exchange.ended);
-    if (ended)
-        ended(result);
+    const bool whole = reply.error() == QNetworkReply::NoError;
+    if (const QUrl target = exchange->redirectTarget(); whole && target.isValid()) {
+        ++exchange->redirects;
+        exchange->body.clear();
+        ask(exchange, target);
+        return;
+    }
+    --m_pending;
+    Reply result{reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt(), whole};
+    if (whole)
+        result.body = exchange->body + reply.readAll();
+    if (exchange->ended)
+        exchange->ended(result);
 }
 
 } // namespace zelvor

@@ -44,8 +44,9 @@ public:
 private:
     struct Exchange;
     QNetworkAccessManager& manager();
-    void watch(QNetworkReply* reply, Handler ended);
-    void end(Exchange& exchange);
+    void ask(const std::shared_ptr<Exchange>& exchange, const QUrl& url);
+    void watch(const std::shared_ptr<Exchange>& exchange);
+    void end(const std::shared_ptr<Exchange>& exchange);
 
     const int m_timeout;
     int m_pending = 0;

@@ -59,6 +59,7 @@ public:
     // What is done with each request; without it the request is kept and nothing answered.
     std::function<void(const Request&)> onRequest;
     std::vector<Request> requests;
+    int connections = 0;
 
     void answerAll(const QByteArray& body, const QByteArray& status = "200 OK")
     {
@@ -90,6 +91,7 @@ private:
     void accept()
     {
         while (QTcpSocket* const socket = m_server.nextPendingConnection()) {
+            ++connections;
             QObject::connect(socket, &QTcpSocket::readyRead, &m_server, [this, socket] { read(socket); });
             QObject::connect(socket, &QTcpSocket::disconnected, &m_server, [this, socket] {
                 m_received.erase(socket);
