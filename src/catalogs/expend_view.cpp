@@ -11,13 +11,14 @@ namespace {
 std::vector<ViewColumn> expendColumns()
 {
     return {
+        // the order of the export
         {.identifier = u"name"_s, .title = localized("Name"), .sortKey = u"name"_s},
-        {.identifier = u"constant"_s,
-         .title = localized("Constant"),
-         .kind = CellKind::CheckBox,
-         .editable = true},
         {.identifier = u"hidden"_s,
          .title = localized("Hidden"),
+         .kind = CellKind::CheckBox,
+         .editable = true},
+        {.identifier = u"constant"_s,
+         .title = localized("Constant"),
          .kind = CellKind::CheckBox,
          .editable = true},
         {.identifier = u"description"_s, .title = localized("Description")},

@@ -90,9 +90,9 @@ int run(AppDelegate& appDelegate, const Arguments& arguments, const Report::Prin
 const Report periodSellReport{
     "period-sell",
     "[--from DAY] [--to DAY] [--by products|customers|managers]\n"
-    "                 [--collapse products,contragents,managers] [--sort KEY[:desc]]\n"
-    "                 [--product-groups IDS] [--products IDS] [--contragent-groups IDS]\n"
-    "                 [--contragents IDS] [--managers IDS]",
+    "[--collapse products,contragents,managers] [--sort KEY[:desc]]\n"
+    "[--product-groups IDS] [--products IDS] [--contragent-groups IDS]\n"
+    "[--contragents IDS] [--managers IDS]",
     options,
     run,
 };

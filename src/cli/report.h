@@ -11,13 +11,16 @@ namespace zelvor {
 
 class JsonWriter;
 
-// What a report hands over to be printed: the cells of its view and the marker of each row. The last two add
-// members to a row's object and to the whole answer, in JSON only.
+// What a report hands over to be printed: the cells of its view and the marker of each row. Two add members to
+// a row's object and to the whole answer, in JSON only. Where a cell of the view holds several figures, the
+// last two are the columns of CSV, one for each figure, and their cells.
 struct ReportTable {
     const TableView& view;
     std::function<QString(int row)> kind;
     std::function<void(int row, JsonWriter& json)> moreOfRow = {};
     std::function<void(JsonWriter& json)> moreOfAnswer = {};
+    std::vector<ViewColumn> figureColumns = {};
+    std::function<QVariant(int row, const QString& identifier)> figure = {};
 };
 
 // One report of the command line. `run` computes it and hands its table to `print`, whose answer (an exit

@@ -115,9 +115,14 @@ QString strayOption(const Report& report, const Arguments& arguments)
 
 QByteArray listReports()
 {
+    constexpr qsizetype width = 19; // of the names
+    const auto indented = [](QByteArray lines) {
+        return lines.replace("\n", "\n" + QByteArray(width + 2, ' '));
+    };
     QByteArray text = "Reports and their options:\n";
     for (const Report* report : reports())
-        text += "  " + (QByteArray(report->name) + ' ').leftJustified(13) + report->details + '\n';
+        text += "  " + (QByteArray(report->name).leftJustified(width) + indented(report->details)).trimmed() +
+                '\n';
     return text;
 }
 

@@ -57,7 +57,7 @@ QByteArray csvField(const QVariant& cell, CellKind kind, const Calendar& calenda
 
 bool printCsv(const ReportTable& table, const Calendar& calendar, const Sink& sink)
 {
-    std::vector<ViewColumn> columns = table.view.columns();
+    std::vector<ViewColumn> columns = table.figure ? table.figureColumns : table.view.columns();
     std::erase_if(columns, [](const ViewColumn& column) { return column.hidden; });
     QByteArray text;
     const auto writeLine = [&](const auto& fieldOf) {
@@ -68,7 +68,9 @@ bool printCsv(const ReportTable& table, const Calendar& calendar, const Sink& si
     const int count = table.view.numberOfRows();
     for (int row = 0; row < count; ++row) {
         writeLine([&](const ViewColumn& column) {
-            return csvField(table.view.value(row, column.identifier), column.kind, calendar);
+            const QVariant cell = table.figure ? table.figure(row, column.identifier)
+                                               : table.view.value(row, column.identifier);
+            return csvField(cell, column.kind, calendar);
         });
         if (text.size() > pieceSize && !sink(std::exchange(text, QByteArray())))
             return false;

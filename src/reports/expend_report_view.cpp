@@ -31,8 +31,9 @@ void ExpendReportView::setRows(ExpendReportRow::Children rows)
 
 std::vector<ViewColumn> ExpendReportView::columns() const
 {
-    return {{u"date"_s, localized("Date"), CellKind::Date, CellAlignment::Center},
-            {u"name"_s, localized("Name")},
+    // The order of the export.
+    return {{u"name"_s, localized("Name")},
+            {u"date"_s, localized("Date"), CellKind::Date, CellAlignment::Center},
             {u"constant"_s, localized("Constant"), CellKind::Amount, CellAlignment::Right},
             {u"variable"_s, localized("Variable"), CellKind::Amount, CellAlignment::Right},
             {u"total"_s, localized("Total"), CellKind::Amount, CellAlignment::Right},

@@ -17,7 +17,7 @@ TEST_F(ExpendCatalog, listHasItsTitleColourAndColumns)
     EXPECT_EQ(controller.view.name(), u"Spendings Catalog"_s);
     EXPECT_EQ(controller.view.titleColor(), (Color{0.196, 0.396, 0.282, 1.0}));
     EXPECT_EQ(identifiers(controller.view),
-              (QStringList{u"name"_s, u"constant"_s, u"hidden"_s, u"description"_s}));
+              (QStringList{u"name"_s, u"hidden"_s, u"constant"_s, u"description"_s}));
 }
 
 TEST_F(ExpendCatalog, theAddButtonAsksWhatToAdd)

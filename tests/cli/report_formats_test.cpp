@@ -54,6 +54,21 @@ TEST_F(ReportFormats, csvWritesFiguresWithoutAnExponent)
     EXPECT_TRUE(csv.contains(",false,0.01,")) << csv.constData();
 }
 
+TEST_F(ReportFormats, csvHasAColumnForEachFigureOfAWarehouse)
+{
+    applied(
+        R"({"do":"document","type":"BuyProduct","date":"2024-01-12","contragent":1,"rows":[{"product":1,"amount":3,"price":6}],"confirm":true}
+)",
+        {"--replay"});
+    EXPECT_EQ(run({"report", "products-on-stock", project, "--format", "csv", "--date", "2024-01-31"})
+                  .out.toStdString(),
+              "name,units,cost,stock_0_amount,stock_0_sum,stock_0_reserv,amountTotal,sumTotal\r\n"
+              "Name,Unit,Base cost,Shop,Shop,Shop,,\r\n"
+              "Goods,,,20,18,0,20,18\r\n"
+              "      Lamp,,0.9,20,18,0,20,18\r\n"
+              "TOTAL:,,,20,18,0,20,18\r\n");
+}
+
 TEST_F(ReportFormats, xlsIsTheDesktopsExportInUtf16)
 {
     const CliRun result = run(journal({"--type", "SellProduct", "--format", "xls"}));

@@ -7,7 +7,10 @@
 #include "documents/document_journal_view.h"
 #include "period/balance_view.h"
 #include "print/export/excel_views.h"
+#include "reports/dynamics_report_view.h"
+#include "reports/expend_report_view.h"
 #include "reports/period_sell_report_view.h"
+#include "reports/products_on_stock_report_view.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QSaveFile>
@@ -30,6 +33,9 @@ std::optional<QString> composed(const BaseView& view, const ExcelTexts& texts)
 // clang-format off
 constexpr std::optional<QString> (*composers[])(const BaseView& view, const ExcelTexts& texts) = {
     composed<PeriodSellReportView>,
+    composed<ExpendReportView>,
+    composed<DynamicsReportView>,
+    composed<ProductsOnStockReportView>,
     composed<BalanceView>,
     composed<DocumentJournalView>,
     composed<PropertyJournalView>,

@@ -6,14 +6,20 @@ namespace zelvor {
 
 class BalanceView;
 class DocumentJournalView;
+class DynamicsReportView;
+class ExpendReportView;
 class ExpendView;
 class PeriodSellReportView;
 class ProductView;
+class ProductsOnStockReportView;
 class PropertyJournalView;
 
 // The table of each kind of view. Which cells a row has, and in which order, is told here and not by the
 // columns of the view: the titles above follow the columns and can stand in another order.
 QString excelTableOf(const PeriodSellReportView& view, const ExcelTexts& texts);
+QString excelTableOf(const ExpendReportView& view, const ExcelTexts& texts);
+QString excelTableOf(const DynamicsReportView& view, const ExcelTexts& texts);
+QString excelTableOf(const ProductsOnStockReportView& view, const ExcelTexts& texts);
 QString excelTableOf(const BalanceView& view, const ExcelTexts& texts);
 QString excelTableOf(const DocumentJournalView& view, const ExcelTexts& texts);
 QString excelTableOf(const PropertyJournalView& view, const ExcelTexts& texts);

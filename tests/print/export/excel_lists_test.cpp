@@ -54,7 +54,7 @@ TEST_F(ExportOfLists, aProductHasNineCellsAndAGroupLeavesSixBlank)
                       u"dry"_s, u"no"_s, u"yes"_s}}));
 }
 
-TEST_F(ExportOfLists, aSpendingHasItsFlagsInTheToldOrderUnderTheTitlesOfTheTable)
+TEST_F(ExportOfLists, aSpendingHasItsFlagsAndAGroupLeavesThreeCellsBlank)
 {
     ExpendType type;
     type.name = u"House"_s;
@@ -69,7 +69,7 @@ TEST_F(ExportOfLists, aSpendingHasItsFlagsInTheToldOrderUnderTheTitlesOfTheTable
     ExpendViewController controller(books.appDelegate);
     controller.prepareExpends();
     controller.view.setItemExpanded(controller.view.child(nullptr, 0), true);
-    EXPECT_EQ(exported(controller.view), table({{u"Name"_s, u"Constant"_s, u"Hidden"_s, u"Description"_s},
+    EXPECT_EQ(exported(controller.view), table({{u"Name"_s, u"Hidden"_s, u"Constant"_s, u"Description"_s},
                                                 {u"House"_s, {}, {}, {}},
                                                 {u"Rent"_s, u"no"_s, u"yes"_s, u"monthly"_s}}));
 }
