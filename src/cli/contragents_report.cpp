@@ -46,7 +46,7 @@ int run(AppDelegate& appDelegate, const Arguments& arguments, const Report::Prin
 const Report contragentsReport{
     "contragents",
     "[--from DAY] [--to DAY] [--contragent-groups IDS] [--contragents IDS]\n"
-    "                 [--grouped]",
+    "[--grouped]",
     options,
     run,
 };
