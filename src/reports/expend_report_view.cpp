@@ -1,7 +1,6 @@
 #include "reports/expend_report_view.h"
 
 #include "core/localized.h"
-#include "reports/expend_report_view_controller.h"
 
 #include <algorithm>
 
@@ -9,13 +8,11 @@ namespace zelvor {
 
 using namespace Qt::Literals::StringLiterals;
 
-ExpendReportView::ExpendReportView(ExpendReportViewController& owner)
-    : ReportView(QString()), m_controller(owner)
-{}
+ExpendReportView::ExpendReportView(AppDelegate& owner) : ReportView(QString()), m_appDelegate(owner) {}
 
 const ExpendReportRow::Children& ExpendReportView::rows() const
 {
-    m_controller.refresh();
+    refresh();
     return m_rows;
 }
 
@@ -72,7 +69,7 @@ void ExpendReportView::openDocument(int row)
 {
     const ExpendReportRow* line = rowAt(row);
     if (line && line->document)
-        m_controller.appDelegate.workspace().openDocWithID(line->document->id, u"Money"_s);
+        m_appDelegate.workspace().openDocWithID(line->document->id, u"Money"_s);
 }
 
 } // namespace zelvor

@@ -2,15 +2,14 @@
 
 #include "reports/expend_report_row.h"
 #include "reports/report_view.h"
+#include "store/app_delegate.h"
 
 namespace zelvor {
-
-class ExpendReportViewController;
 
 // The table of the spendings report: the rows that are shown, depth first.
 class ExpendReportView final : public ReportView {
 public:
-    explicit ExpendReportView(ExpendReportViewController& owner);
+    explicit ExpendReportView(AppDelegate& owner);
 
     // Computes a report that a document made out of date.
     const ExpendReportRow::Children& rows() const;
@@ -27,7 +26,7 @@ public:
 private:
     const ExpendReportRow* rowAt(int row) const;
 
-    ExpendReportViewController& m_controller;
+    AppDelegate& m_appDelegate;
     ExpendReportRow::Children m_rows;
 };
 

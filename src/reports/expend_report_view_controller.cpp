@@ -86,15 +86,16 @@ struct ExpendReportViewController::Tree {
 };
 
 ExpendReportViewController::ExpendReportViewController(AppDelegate& owner)
-    : ReportViewController(owner), mainView(*this), expendSelectView(owner)
+    : ReportViewController(owner), mainView(owner), expendSelectView(owner)
 {
     expendSelectView.hideColumn(false);
     selectedExpends.setText(localized("All Spendings"));
+    mainView.computeAgain = [this] { prepareReport(); };
     groupCheck.onUserChange = [this] { groupClicked(); };
     NotificationCenter& center = appDelegate.notifications;
     m_expendsChanged = staleWhen(center, NotificationName::ExpendChangedNotification, expendSelectView);
     m_documentsChanged = center.observe(NotificationName::ExpendDocChangedNotification,
-                                        [this](const Notification&) { changeReport(); });
+                                        [this](const Notification&) { mainView.markStale(); });
 }
 
 void ExpendReportViewController::prepareData()
@@ -112,7 +113,6 @@ QString ExpendReportViewController::getNameForTabView() const
 
 void ExpendReportViewController::updateReport()
 {
-    m_stale = false;
     progress.start();
     Tree tree(appDelegate.connector, IDFilter(m_expendTypeIDs), IDFilter(m_expendIDs));
     placeDocuments(tree);
@@ -159,27 +159,9 @@ void ExpendReportViewController::groupClicked()
     mainView.setRows(std::move(opened));
 }
 
-// A report that nobody asked for yet stays empty.
-void ExpendReportViewController::changeReport()
-{
-    if (m_dataRows.empty())
-        return;
-    m_stale = true;
-    if (mainView.isVisible())
-        refresh();
-}
-
-void ExpendReportViewController::refresh()
-{
-    if (!m_stale)
-        return;
-    m_stale = false;
-    prepareReport();
-}
-
 void ExpendReportViewController::showChart()
 {
-    refresh();
+    mainView.rows(); // computes what is out of date
     chartView.clear();
     for (const Row& row : m_dataRows) {
         if (!row->footer && row->full())

@@ -23,8 +23,6 @@ public:
     void prepareData() override;
     void updateReport() override;
     QString getNameForTabView() const override;
-    // Computes a report that a document made out of date since.
-    void refresh();
     // The check box changed: the shown rows anew, without a query.
     void groupClicked();
     // The shares of what stands at the top of the tree, in the popover.
@@ -43,14 +41,12 @@ public:
 private:
     struct Tree;
 
-    void changeReport();
     void openRows(const ExpendReportRow::Children& rows, ExpendReportRow::Children& opened) const;
     void placeDocuments(Tree& tree);
 
     std::vector<qint64> m_expendIDs;
     std::vector<qint64> m_expendTypeIDs;
     ExpendReportRow::Children m_dataRows;
-    bool m_stale = false;
     NotificationCenter::Observation m_expendsChanged;
     NotificationCenter::Observation m_documentsChanged;
 };
