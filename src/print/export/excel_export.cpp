@@ -7,10 +7,12 @@
 #include "documents/document_journal_view.h"
 #include "period/balance_view.h"
 #include "print/export/excel_views.h"
+#include "reports/contragents_report_view.h"
 #include "reports/dynamics_report_view.h"
 #include "reports/expend_report_view.h"
 #include "reports/period_sell_report_view.h"
 #include "reports/products_on_stock_report_view.h"
+#include "reports/statement_view.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QSaveFile>
@@ -33,6 +35,8 @@ std::optional<QString> composed(const BaseView& view, const ExcelTexts& texts)
 // clang-format off
 constexpr std::optional<QString> (*composers[])(const BaseView& view, const ExcelTexts& texts) = {
     composed<PeriodSellReportView>,
+    composed<ContragentsReportView>,
+    composed<StatementView>,
     composed<ExpendReportView>,
     composed<DynamicsReportView>,
     composed<ProductsOnStockReportView>,

@@ -5,6 +5,7 @@
 namespace zelvor {
 
 class BalanceView;
+class ContragentsReportView;
 class DocumentJournalView;
 class DynamicsReportView;
 class ExpendReportView;
@@ -13,10 +14,13 @@ class PeriodSellReportView;
 class ProductView;
 class ProductsOnStockReportView;
 class PropertyJournalView;
+class StatementView;
 
 // The table of each kind of view. Which cells a row has, and in which order, is told here and not by the
 // columns of the view: the titles above follow the columns and can stand in another order.
 QString excelTableOf(const PeriodSellReportView& view, const ExcelTexts& texts);
+QString excelTableOf(const ContragentsReportView& view, const ExcelTexts& texts);
+QString excelTableOf(const StatementView& view, const ExcelTexts& texts);
 QString excelTableOf(const ExpendReportView& view, const ExcelTexts& texts);
 QString excelTableOf(const DynamicsReportView& view, const ExcelTexts& texts);
 QString excelTableOf(const ProductsOnStockReportView& view, const ExcelTexts& texts);

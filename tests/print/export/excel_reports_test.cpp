@@ -1,5 +1,7 @@
 #include "period/balance_view_controller.h"
 #include "print/export/export_fixture.h"
+#include "reports/contragent_report_view_controller.h"
+#include "reports/contragents_report_view_controller.h"
 #include "reports/dynamics_report_view_controller.h"
 #include "reports/expend_report_view_controller.h"
 #include "reports/payment_calendar_view_controller.h"
@@ -142,6 +144,42 @@ TEST_F(ExportOfReports, thePaymentCalendarHasItsSixCells)
                      {name(1), u"14 Nov 2023"_s, u"13 Nov 2023"_s, u"500.00"_s, {}, u"500.00"_s},
                      {u"TOTAL:"_s, {}, {}, {}, u"1 500.00"_s, u"500.00"_s},
                      {u"SALDO:"_s, {}, {}, {}, u"1 000.00"_s, {}}}));
+}
+
+TEST_F(ExportOfReports, theBalancesOfCounterpartiesStandUnderTheirTitles)
+{
+    books.contragent(u"Acme & <Sons>"_s, 1250.5);
+    ContragentsReportViewController report(books.appDelegate);
+    report.prepareData();
+    report.prepareReport();
+    const QStringList figures{u"1 250.50"_s, u"1 250.50"_s, u"0.00"_s, u"0.00"_s};
+    EXPECT_EQ(exported(report.mainView), table({{u"Counterparty"_s, u"Start Balance"_s, u"End Balance"_s,
+                                                 u"Credit (+)"_s, u"Debit (-)"_s},
+                                                QStringList{u"START PERIOD:"_s} + figures,
+                                                QStringList{u"Acme & <Sons>"_s} + figures,
+                                                QStringList{u"END PERIOD:"_s} + figures}));
+}
+
+TEST_F(ExportOfReports, aStatementHasItsDocumentsDaysAndNothingWhereThereIsNoFigure)
+{
+    const auto acme = books.contragent(u"Acme"_s, 1500);
+    openDocument<ProductDocument>(books, DocType::SellProduct, *acme, 1500, 86'400);
+    ContragentReportViewController report(books.appDelegate);
+    report.prepareData();
+    ASSERT_TRUE(report.setContragentFromID(acme->id));
+    report.prepareReport();
+    ASSERT_EQ(report.mainView.numberOfRows(), 3);
+    EXPECT_EQ(exported(report.mainView),
+              table({{u"Document"_s, u"Date"_s, u"Balance Before"_s, u"Balance After"_s, u"Credit (+)"_s,
+                      u"Debit (-)"_s},
+                     {u"START PERIOD:"_s, {}, u"0.00"_s, {}, u"0.00"_s, u"0.00"_s},
+                     {report.mainView.value(1, u"name"_s).toString(),
+                      u"14 Nov 2023"_s,
+                      u"0.00"_s,
+                      u"-1 500.00"_s,
+                      {},
+                      u"1 500.00"_s},
+                     {u"END PERIOD:"_s, {}, {}, u"-1 500.00"_s, u"0.00"_s, u"1 500.00"_s}}));
 }
 
 class ExportOfSpendings : public Export {
