@@ -7,7 +7,13 @@
 #include <stdlib.h>
 #include <string.h>
 
-enum { BUY_PRODUCT = 11, SELL_PRODUCT = 12, SELL_INTANGIBLES = 13, MONEY_FROM_CONTRAGENT = 2 };
+enum {
+    BUY_PRODUCT = 11,
+    SELL_PRODUCT = 12,
+    SELL_INTANGIBLES = 13,
+    MONEY_FROM_CONTRAGENT = 2,
+    MONEY_FROM_EMPLOYEE = 5
+};
 
 enum {
     PROBE_PRODUCT_DOC,
@@ -118,6 +124,16 @@ static unsigned next_random(unsigned* state)
     *state ^= *state >> 17;
     *state ^= *state << 5;
     return *state;
+}
+
+struct sqlite3* baseline_file(baseline* db)
+{
+    return db->file;
+}
+
+void baseline_fail(baseline* db, const char* what)
+{
+    fail(db->file, what);
 }
 
 /* ---- opening */
@@ -326,6 +342,69 @@ static void fill_receipts(baseline* db, long receipts)
     sqlite3_finalize(insert);
 }
 
+/* Half as many spendings as receipts. */
+static void fill_spendings(baseline* db, long spendings)
+{
+    run(db->file, "INSERT INTO expend_type(name, parent_id) VALUES('House', 0), ('People', 0), ('Goods', 0)");
+    run(db->file, "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i<12)"
+                  " INSERT INTO expend(name, parent_id, description_string, is_constant, is_hidden)"
+                  " SELECT printf('Spending %02d', i), i%4, '', i%2, 0 FROM n");
+    sqlite3_stmt* insert = prepare(
+        db->file,
+        "INSERT INTO money_doc(doc_type_id, date, doc_number, contragent_id, doc_sum, manager_id, comment, "
+        "is_confirmed, is_correction, parent_doc_id, parent_doc_type_id, pay_to_date, left_to_pay, "
+        "contragent_balance, account_from_id, account_to_id, is_loans, employee_id, expend_id, is_variable, "
+        "is_divident, exchange_rate, converted_sum, account_from_balance, account_to_balance, "
+        "manager_balance)"
+        " VALUES(4,?,?,0,?,0,'By card',1,0,0,0,?,0,0,1,0,0,0,?,?,0,1,0,0,0,0)");
+    for (long i = 0; i < spendings; ++i) {
+        sqlite3_int64 date = BASELINE_START + 3 + (BASELINE_END - BASELINE_START - 6) * i / spendings;
+        sqlite3_bind_int64(insert, 1, date);
+        sqlite3_bind_int64(insert, 2, i + 1);
+        sqlite3_bind_double(insert, 3, (double)(10 + i % 300));
+        sqlite3_bind_int64(insert, 4, date);
+        sqlite3_bind_int(insert, 5, 1 + (int)(i % BASELINE_EXPENDS));
+        sqlite3_bind_int(insert, 6, (int)(i % 2));
+        finish(db, insert);
+    }
+    sqlite3_finalize(insert);
+}
+
+/* The stock as it was when August was closed, and one counterparty, one account and one employee whose few
+ * documents do not grow with the business. */
+static void fill_report_subjects(baseline* db)
+{
+    char text[256];
+    snprintf(text, sizeof text,
+             "INSERT INTO stock_history(date, stock_id, product_id, amount, amount_reserved)"
+             " SELECT %lld, stock_id, product_id, amount, amount_reserved FROM stock_row",
+             BASELINE_MONTH_END);
+    run(db->file, text);
+    run(db->file,
+        "INSERT INTO contragent(name, parent_id, is_hidden, parent_contragent_id, manager_id, discount, "
+        "balance, deferment, address, city, contact_person, phone, mail, vat_number, comment)"
+        " VALUES('Quiet customer', 1, 0, 0, 0, 0, 0, 14, '', '', '', '', '', '', '')");
+    sqlite3_int64 quiet = sqlite3_last_insert_rowid(db->file);
+    sqlite3_stmt* paid = prepare(
+        db->file,
+        "INSERT INTO money_doc(doc_type_id, date, doc_number, contragent_id, doc_sum, manager_id, comment, "
+        "is_confirmed, is_correction, parent_doc_id, parent_doc_type_id, pay_to_date, left_to_pay, "
+        "contragent_balance, account_from_id, account_to_id, is_loans, employee_id, expend_id, is_variable, "
+        "is_divident, exchange_rate, converted_sum, account_from_balance, account_to_balance, "
+        "manager_balance)"
+        " VALUES(?,?,?,?,25,0,'',1,0,0,0,0,0,0,0,2,0,?,0,0,0,1,0,0,0,0)");
+    for (int i = 0; i < BASELINE_STATEMENT_DOCUMENTS; ++i) {
+        const int from_employee = i % 2;
+        sqlite3_bind_int(paid, 1, from_employee ? MONEY_FROM_EMPLOYEE : MONEY_FROM_CONTRAGENT);
+        sqlite3_bind_int64(paid, 2, BASELINE_START + 7 + (BASELINE_END - BASELINE_START - 8) / 60 * i);
+        sqlite3_bind_int(paid, 3, 1000000 + i);
+        sqlite3_bind_int64(paid, 4, from_employee ? 0 : quiet);
+        sqlite3_bind_int(paid, 5, from_employee ? 1 : 0);
+        finish(db, paid);
+    }
+    sqlite3_finalize(paid);
+}
+
 void baseline_fill(const char* path, long documents)
 {
     baseline* db = baseline_open(path);
@@ -336,6 +415,8 @@ void baseline_fill(const char* path, long documents)
     fill_money(db->file);
     fill_documents(db, documents);
     fill_receipts(db, documents / 10);
+    fill_spendings(db, documents / 20);
+    fill_report_subjects(db);
     run(db->file, "COMMIT");
     baseline_close(db);
 }

@@ -18,6 +18,9 @@ enum {
     BASELINE_CONTRAGENTS = 500,
     BASELINE_STOCKS = 3,
     BASELINE_MANAGERS = 12,
+    BASELINE_EXPENDS = 12,
+    BASELINE_STATEMENTS = 1, /* one more counterparty, with the same 60 documents in a file of any size */
+    BASELINE_STATEMENT_DOCUMENTS = 60,
     BASELINE_ROWS_PER_DOCUMENT = 4
 };
 #define BASELINE_START 1727740800LL     /* 2024-10-01 */
@@ -26,6 +29,7 @@ enum {
 #define BASELINE_END 1790812800LL       /* 2026-10-01, when the documents end; the months before are closed */
 
 typedef struct baseline baseline;
+struct sqlite3;
 
 typedef struct {
     double debet;
@@ -56,6 +60,31 @@ baseline_sales baseline_sales_summed(baseline* db, long long from, long long to)
 baseline_sales baseline_sales_by_owner(baseline* db, long long from, long long to, int by_manager);
 /* All heads of product documents into structs, with their texts. Answers how many. */
 size_t baseline_heads(baseline* db);
+
+typedef struct {
+    size_t rows;
+    double start, debit, credit;
+} baseline_saldo;
+
+typedef struct {
+    size_t products;
+    double amount, sum;
+} baseline_goods;
+
+/* What every counterparty owed before the period, what moved it, from exclusive, to inclusive. */
+baseline_saldo baseline_contragents(baseline* db, long long from, long long to);
+/* The documents of one record: `sql` asks for a date and a sum by two dates and an id. */
+baseline_saldo baseline_statement(baseline* db, const char* sql, long long from, long long to, long long id);
+/* The spendings of a period with their documents; the total. */
+double baseline_expends(baseline* db, long long from, long long to);
+/* What lay in each warehouse: the snapshot of the period's start and one pass over the rows since. */
+baseline_goods baseline_products_on_stock(baseline* db, long long period_start, long long moment);
+/* Income, spendings, selling and margin of each month; `starts` has one moment more than there are months. */
+void baseline_dynamics(baseline* db, const long long* starts, int months, double sums[][4]);
+
+/* For the files of this program only. */
+struct sqlite3* baseline_file(baseline* db);
+void baseline_fail(baseline* db, const char* what);
 
 /* One confirmed sale of four rows with its checks: 3 probes for later documents, 12 look-ups, 11 writes. */
 void baseline_begin(baseline* db);
