@@ -112,7 +112,7 @@ class Check:
     def period(start, finish):
         return ["--from", f"@{start}", "--to", f"@{finish}"]
 
-    def everything(self, chance):
+    def everything(self, chance, rounds=12):
         moments = [row[0] for row in self.literal.read(
             "SELECT date FROM product_doc UNION SELECT date FROM money_doc UNION SELECT date FROM property_doc")]
         count = {table: self.literal.read(f"SELECT max(id) FROM {table}")[0][0] or 1
@@ -134,7 +134,7 @@ class Check:
             day = datetime.datetime.fromtimestamp(moment, ZoneInfo(ZONE))
             return self.literal.midnight(day.year, day.month, day.day) + (DAY if kind < 0.7 else 0)
 
-        for _ in range(12):
+        for _ in range(rounds):
             start, finish = sorted((some_moment(), some_moment()))
             self.contragents(start, finish, some("contragent_group"), some("contragent"), chance.random() < 0.3)
             self.expends(start, finish, some("expend_type"), some("expend"), chance.random() < 0.3)
