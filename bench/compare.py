@@ -19,7 +19,7 @@ import tempfile
 from collections import defaultdict
 from pathlib import Path
 
-PROGRAMS = ["store", "sale", "balance", "sales"]
+PROGRAMS = ["store", "sale", "balance", "sales", "reports"]
 MEMORY_LIMIT_MB = 32
 
 # task, what it is compared with, at most this many times as much CPU, at most this many milliseconds
@@ -31,7 +31,16 @@ AIMS = [
     ("sales-years", "sql", 1.0, None),
     ("heads", "c", 3.0, None),
     ("open", "c", None, 10.0),
+    ("products-on-stock", "c", 5.0, None),
+    ("dynamics-years", "c", 3.0, None),
+    ("expends-month", "c", 3.0, None),
+    ("expends-years", "c", 3.0, None),
     # No aim stands for these; they are shown.
+    ("contragents-month", "c", None, None),
+    ("contragents-years", "c", None, None),
+    ("contragent-statement", "c", None, None),
+    ("account-statement", "c", None, None),
+    ("employee-statement", "c", None, None),
     ("insert200", "c", None, None),
     ("sales-years", "c", None, None),
     ("sales-month", "sql", None, None),
@@ -40,6 +49,18 @@ AIMS = [
     ("sales-month-managers", "sql", None, None),
     ("sales-years-managers", "sql", None, None),
 ]
+# Reports of the program held against another one of its own: the sales by products of the same period.
+AGAINST_PRODUCTS = [
+    ("contragents-month", "sales-month"),
+    ("contragents-years", "sales-years"),
+    ("sales-month-customers", "sales-month"),
+    ("sales-years-customers", "sales-years"),
+    ("sales-month-managers", "sales-month"),
+    ("sales-years-managers", "sales-years"),
+]
+AGAINST_PRODUCTS_LIMIT = 2.0
+STATEMENTS = ["contragent-statement", "account-statement", "employee-statement"]
+STATEMENT_SPREAD = 1.2  # a statement does not grow with the rest of the business
 SALE_SPREAD = 1.2  # one sale costs the same at every size
 SALE_SYNCS = 4
 
@@ -99,6 +120,31 @@ def show_sale(figures, sizes):
     return (spread > SALE_SPREAD) + (syncs > SALE_SYNCS)
 
 
+def show_own(figures, sizes):
+    """Reports beside the sales by products, and statements beside themselves in a smaller business."""
+    missed = 0
+    print()
+    for task, products in AGAINST_PRODUCTS:
+        for size in sizes:
+            ours, other = figures.get((task, "zelvor", size)), figures.get((products, "zelvor", size))
+            if not ours or not other:
+                continue
+            ratio = ours["cpu"] / other["cpu"]
+            met = ratio <= AGAINST_PRODUCTS_LIMIT
+            missed += not met
+            print(f"{task:26}{size:>11,}{ours['cpu']:>11.3f}  {ratio:.2f} times {products}, "
+                  f"{AGAINST_PRODUCTS_LIMIT:g} at most: {'met' if met else 'MISSED'}")
+    for task in STATEMENTS:
+        costs = [figures[task, "zelvor", size]["cpu"] for size in sizes if (task, "zelvor", size) in figures]
+        if len(costs) > 1:
+            spread = max(costs) / min(costs)
+            met = spread <= STATEMENT_SPREAD
+            missed += not met
+            print(f"{task} over the sizes: {spread:.2f} times, {STATEMENT_SPREAD} at most: "
+                  f"{'met' if met else 'MISSED'}")
+    return missed
+
+
 def peak_memory(build, command, stdin, accepted):
     """Runs the command; its largest resident set in MB."""
     launcher = [str(build / "bench/zelvor-baseline"), "memory"]
@@ -124,6 +170,11 @@ def show_memory(build, size, folder):
         "report period-sell, two years": report("period-sell", *years),
         "report period-sell, by customers": report("period-sell", *years, "--by", "customers"),
         "report period-sell, by managers": report("period-sell", *years, "--by", "managers"),
+        "report contragents, two years": report("contragents", *years),
+        "report expends, two years": report("expends", *years),
+        "report dynamics, two years": report("dynamics", *years),
+        "report products-on-stock": report("products-on-stock", "--date", "2026-09-20"),
+        "report payment-calendar": report("payment-calendar"),
         "report journal, a month": report("journal", "--from", "2026-08-01", "--to", "2026-08-31"),
         "apply, one sale": ([cli, "apply", project], sale),
         "apply --bulk, 1,000 sales": ([cli, "apply", project, "--bulk"], sale * 1000),
@@ -150,7 +201,7 @@ def main():
     # Beside the build, on the disk that a business would lie on; the system's folder may be memory.
     with tempfile.TemporaryDirectory(dir=options.build.resolve()) as folder:
         figures = run_benchmarks(options.build.resolve(), sizes, options.rounds, folder)
-        missed = show_times(figures, sizes) + show_sale(figures, sizes)
+        missed = show_times(figures, sizes) + show_own(figures, sizes) + show_sale(figures, sizes)
         missed += show_memory(options.build.resolve(), max(sizes), folder)
     return 1 if missed else 0
 
