@@ -255,7 +255,7 @@ class Reports:
 
         stocks = sorted(catalog("stock", stock_ids), key=lambda record: record["name"])
         rows = []
-        for record in catalog("product_group", group_ids):
+        for record in sorted(catalog("product_group", group_ids), key=lambda group: group["id"]):
             rows.append({"id": record["id"], "name": record["name"], "kind": "group",
                          "parent": record["parent_id"], "cells": [[Decimal(0), Decimal(0)] for _ in stocks]})
         for record in sorted(catalog("product", product_ids), key=lambda product: product["name"]):
@@ -273,10 +273,11 @@ class Reports:
         for row in rows:
             row["children"], row["above"] = [], None
         for row in rows:
+            # The first row with the id, whatever it is: with groups left out it may be a product.
             parent = next((other for other in rows if row["parent"] and other["id"] == row["parent"]), None)
             if parent is None:
                 top.append(row)
-            else:
+            elif not self.is_within(parent, row):
                 parent["children"].append(row)
                 row["above"] = parent
                 parent["children"].sort(key=lambda child: child["name"])
@@ -306,6 +307,12 @@ class Reports:
             answer.append([line["kind"], line["name"], cells, added(*(c[0] for c in cells)),
                            added(*(c[1] for c in cells))])
         return answer, [stocks[i]["name"] for i in kept]
+
+    @staticmethod
+    def is_within(row, other):
+        while row is not None and row is not other:
+            row = row["above"]
+        return row is other
 
     @staticmethod
     def add_cells(row, other):
