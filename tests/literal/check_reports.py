@@ -116,8 +116,10 @@ class Check:
         moments = [row[0] for row in self.literal.read(
             "SELECT date FROM product_doc UNION SELECT date FROM money_doc UNION SELECT date FROM property_doc")]
         count = {table: self.literal.read(f"SELECT max(id) FROM {table}")[0][0] or 1
-                 for table in ("contragent", "contragent_group", "account", "manager", "expend", "expend_type",
-                               "product", "product_group", "stock")}
+                 for table in ("contragent", "contragent_group", "account", "expend", "expend_type", "product",
+                               "product_group", "stock")}
+        # The pop-up of employees offers those in use alone.
+        employees = [row[0] for row in self.literal.read("SELECT id FROM manager WHERE is_hidden=0")]
 
         def some(table):
             if chance.random() < 0.5:
@@ -139,8 +141,9 @@ class Check:
             self.contragents(start, finish, some("contragent_group"), some("contragent"), chance.random() < 0.3)
             self.expends(start, finish, some("expend_type"), some("expend"), chance.random() < 0.3)
             self.dynamics(start, finish)
-            for name, table in (("contragent", "contragent"), ("account", "account"), ("employee", "manager")):
-                self.statement(name, start, finish, chance.randrange(1, count[table] + 1))
+            for name, numbers in (("contragent", range(1, count["contragent"] + 1)),
+                                  ("account", range(1, count["account"] + 1)), ("employee", employees)):
+                self.statement(name, start, finish, chance.choice(numbers))
             self.products_on_stock(some_moment(), some("product_group"), some("product"), some("stock"))
         first, last = min(moments) - 1, max(moments) + 1
         self.contragents(first, last, [], [], False)
