@@ -1,6 +1,7 @@
 #include "reports/expend_report_row.h"
 
 #include "core/text_order.h"
+#include "documents/money_document.h"
 
 #include <algorithm>
 
@@ -24,6 +25,15 @@ QVariant shownSum(const Decimal& sum)
 
 } // namespace
 
+QString SpendingDocument::name() const
+{
+    MoneyDocument document;
+    document.insertDocType(DocType::MoneyToExpend);
+    document.docNumber = docNumber;
+    document.confirmed = true;
+    return document.name();
+}
+
 QString ExpendReportRow::title() const
 {
     if (document)
@@ -39,7 +49,10 @@ void ExpendReportRow::add(Decimal ExpendReportRow::*field, const Decimal& sum)
 
 void ExpendReportRow::setChild(const std::shared_ptr<ExpendReportRow>& child)
 {
-    m_children.insert(std::ranges::upper_bound(m_children, child, standsBefore), child);
+    // Nearly always they come in order.
+    const bool isLast = m_children.empty() || !standsBefore(child, m_children.back());
+    m_children.insert(isLast ? m_children.end() : std::ranges::upper_bound(m_children, child, standsBefore),
+                      child);
     child->parent = this;
     child->addIndent(indent + 1 - child->indent);
 }

@@ -1,12 +1,23 @@
 #pragma once
 
 #include "catalogs/expend.h"
-#include "documents/money_document.h"
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace zelvor {
+
+// What the spendings report needs of a document: there may be a hundred thousand of them.
+struct SpendingDocument {
+    qint64 id = 0;
+    qint64 date = 0; // seconds since 1970 UTC
+    qint64 docNumber = 0;
+    QString comment;
+
+    // As the document calls itself.
+    QString name() const;
+};
 
 // A row of the spendings report: a group of spendings, a spending, one of its documents, or the footer that
 // gathers them all. A row owns the rows below it.
@@ -15,8 +26,8 @@ public:
     using Children = std::vector<std::shared_ptr<ExpendReportRow>>;
     static constexpr RoundingHandler handler = moneyHandler;
 
-    std::shared_ptr<const MoneyDocument> document; // of a document's row
-    std::shared_ptr<const ExpendModel> expend;     // of a group's or a spending's row
+    std::optional<SpendingDocument> document;  // of a document's row
+    std::shared_ptr<const ExpendModel> expend; // of a group's or a spending's row
     ExpendReportRow* parent = nullptr;
     bool groupRow = false; // gathers others; false for documents
     bool footer = false;

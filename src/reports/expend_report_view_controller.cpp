@@ -1,5 +1,6 @@
 #include "reports/expend_report_view_controller.h"
 
+#include "core/doc_type.h"
 #include "core/localized.h"
 #include "core/text_order.h"
 #include "reports/filter_popover.h"
@@ -80,8 +81,10 @@ struct ExpendReportViewController::Tree {
             return;
         }
         expend->second->setChild(row);
-        expend->second->addToConstant(row->innerConst);
-        expend->second->addToVariable(row->innerVariable);
+        if (!row->innerConst.isZero())
+            expend->second->addToConstant(row->innerConst);
+        if (!row->innerVariable.isZero())
+            expend->second->addToVariable(row->innerVariable);
     }
 };
 
@@ -114,8 +117,12 @@ QString ExpendReportViewController::getNameForTabView() const
 void ExpendReportViewController::updateReport()
 {
     progress.start();
-    Tree tree(appDelegate.connector, IDFilter(m_expendTypeIDs), IDFilter(m_expendIDs));
-    placeDocuments(tree);
+    const auto readTree = [this] {
+        return Tree(appDelegate.connector, IDFilter(m_expendTypeIDs), IDFilter(m_expendIDs));
+    };
+    Tree tree = readTree();
+    if (!placeDocuments(tree))
+        tree = readTree(); // no half of a report
     tree.top.push_back(tree.footer);
     m_dataRows = std::move(tree.top);
     mainView.setPeriod(dateFrom.moment(), dateTo.moment());
@@ -124,22 +131,26 @@ void ExpendReportViewController::updateReport()
     progress.stop();
 }
 
-void ExpendReportViewController::placeDocuments(Tree& tree)
+// False when the read broke off.
+bool ExpendReportViewController::placeDocuments(Tree& tree)
 {
     const IDFilter filter(m_expendIDs);
-    const auto documents = appDelegate.connector.freeSQL<MoneyDocument>(
-        "WHERE date>? AND date<=? AND is_confirmed=1 AND doc_type_id=? ORDER BY date ASC",
-        {dateFrom.moment(), dateTo.moment(), DocType::MoneyToExpend}, Fill::Nothing);
-    for (const auto& document : documents) {
-        if (!filter.passes(document->expendID))
-            continue;
-        const auto row = std::make_shared<ExpendReportRow>();
-        row->document = document;
-        (document->variable ? row->innerVariable : row->innerConst) = document->innerDocSum;
-        tree.place(row, document->expendID);
-        tree.footer->addToConstant(row->innerConst);
-        tree.footer->addToVariable(row->innerVariable);
-    }
+    return appDelegate.connector.scan(
+        "SELECT id, date, doc_number, expend_id, doc_sum, is_variable, comment FROM money_doc"
+        " WHERE date>? AND date<=? AND is_confirmed=1 AND doc_type_id=? ORDER BY date ASC",
+        {dateFrom.moment(), dateTo.moment(), DocType::MoneyToExpend}, [&](const Statement& document) {
+            const qint64 expendID = document.integer(3);
+            if (!filter.passes(expendID))
+                return;
+            const auto row = std::make_shared<ExpendReportRow>();
+            row->document = SpendingDocument{document.integer(0), document.integer(1), document.integer(2),
+                                             document.text(6)};
+            const Decimal sum = Decimal::fromDouble(document.real(4), moneyHandler);
+            const bool isVariable = document.integer(5) != 0;
+            (isVariable ? row->innerVariable : row->innerConst) = sum;
+            tree.place(row, expendID);
+            isVariable ? tree.footer->addToVariable(sum) : tree.footer->addToConstant(sum);
+        });
 }
 
 void ExpendReportViewController::openRows(const ExpendReportRow::Children& rows,

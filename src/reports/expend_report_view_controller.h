@@ -42,7 +42,7 @@ private:
     struct Tree;
 
     void openRows(const ExpendReportRow::Children& rows, ExpendReportRow::Children& opened) const;
-    void placeDocuments(Tree& tree);
+    bool placeDocuments(Tree& tree);
 
     std::vector<qint64> m_expendIDs;
     std::vector<qint64> m_expendTypeIDs;

@@ -35,7 +35,7 @@ protected:
     {
         QStringList lines;
         for (int row = 0; row < view.numberOfRows(); ++row) {
-            const bool isDocument = view.rows()[static_cast<std::size_t>(row)]->document != nullptr;
+            const bool isDocument = view.rows()[static_cast<std::size_t>(row)]->document.has_value();
             QStringList cells{isDocument ? u"-"_s : view.value(row, u"name"_s).toString()};
             for (const QString& sum : {u"constant"_s, u"variable"_s, u"total"_s})
                 cells << cellText(view.value(row, sum));
@@ -274,6 +274,15 @@ TEST_F(ExpendReport, datesTheWrongWayRoundLeaveTheOldTable)
     controller.prepareReport();
     EXPECT_EQ(lines(), before);
     EXPECT_EQ(controller.dateFromLabel.color(), redColor);
+}
+
+TEST_F(ExpendReport, aFailedReadShowsNoHalfOfTheDocuments)
+{
+    books.spend(books.addExpend(u"Rent"_s), 1);
+    books.connector->failCall(3, FaultInjectingConnector::Read);
+    controller.prepareReport();
+    EXPECT_TRUE(books.connector->hasFailed());
+    EXPECT_EQ(lines(), QStringList{u"TOTAL FOR PERIOD:|||0"_s});
 }
 
 TEST_F(ExpendReport, theFilterIsChosenInItsPopover)
