@@ -18,6 +18,7 @@ namespace zelvor {
 namespace {
 
 constexpr double left = 10;         // of the texts at the sheet's left
+constexpr double labelShift = 80;   // of the head's labels, to the left of their values
 constexpr double tableLeft = 1.5;   // and as much at its right
 constexpr double tableLine = 15;    // height of the head and of a line of a row
 constexpr double cellInset = 2;     // of a text that stands at a side of its column
@@ -28,6 +29,7 @@ constexpr double firstSum = 30;     // below the point where the totals begin
 constexpr double totalsBegin = 10;  // above the end of the table
 constexpr double paymentGap = 40;   // from the last sum to the line of thanks
 constexpr double bankRise = 36;     // of the bank details into that gap
+constexpr double leastGap = 2;      // between texts, when room is short
 
 using Column = PrintInvoice::Column;
 
@@ -141,18 +143,30 @@ QPointF PrintInvoice::titlePoint() const
 }
 
 // Every line stands there, also when the settings do not know it yet.
+auto PrintInvoice::companyLines() const -> std::vector<CompanyLine>
+{
+    const double depth = delta + textSize(params->companyName, columnTitleFont).height() + 4;
+    std::vector<CompanyLine> lines{{params->companyName, columnTitleFont, depth}};
+    const auto add = [&](const QString& text) {
+        lines.push_back({text, dataFont, lines.back().depth + textSize(text, dataFont).height() + 2});
+    };
+    add(params->companyAddress);
+    add(params->companyCity);
+    add(localized("phone:") + u' ' + params->companyPhone);
+    add(localized("mail:") + u' ' + params->companyMail);
+    add(localized("web:") + u' ' + params->companyDomain);
+    if (params->useVATNo)
+        add(localized("VAT No.") + u' ' + params->vatNumber);
+    return lines;
+}
+
 void PrintInvoice::drawCompanyData(Canvas& canvas)
 {
-    adding = delta + textSize(params->companyName, columnTitleFont).height() + 4;
-    canvas.text({left, frame().height() - adding}, params->companyName, columnTitleFont, blackColor);
-    QStringList lines{
-        params->companyAddress, params->companyCity, localized("phone:") + u' ' + params->companyPhone,
-        localized("mail:") + u' ' + params->companyMail, localized("web:") + u' ' + params->companyDomain};
-    if (params->useVATNo)
-        lines.append(localized("VAT No.") + u' ' + params->vatNumber);
-    for (const QString& line : std::as_const(lines)) {
-        adding += textSize(line, dataFont).height() + 2;
-        canvas.text({left, frame().height() - adding}, line, dataFont, blackColor);
+    const double room = titlePoint().x() - labelShift - left - leastGap;
+    for (const CompanyLine& line : companyLines()) {
+        adding = line.depth;
+        canvas.text({left, frame().height() - adding}, line.text, fitted(line.text, line.font, room).font,
+                    blackColor);
     }
 }
 
@@ -178,19 +192,21 @@ auto PrintInvoice::titleLines() const -> std::vector<TitleLine>
     return lines;
 }
 
+// Below the customer. With a logo above it the company reaches further down when the customer has few lines:
+// its VAT number must not disappear under the band.
 double PrintInvoice::tableTop() const
 {
-    return titlePoint().y() - titleLines().back().depth - 20;
+    const double belowCustomer = titlePoint().y() - titleLines().back().depth - 20;
+    return std::min(belowCustomer, frame().height() - companyLines().back().depth - leastGap);
 }
 
 void PrintInvoice::drawInvoiceTitles(Canvas& canvas, const QPointF& point)
 {
-    constexpr double labelShift = 80;
     const double room = frame().width() - point.x();
     for (const TitleLine& line : titleLines()) {
         canvas.text(point - QPointF(labelShift, line.depth), line.label, titlesFont, titlesColor);
         canvas.text(point - QPointF(0, line.depth), line.value,
-                    fittingFont(line.value, invoiceDataFont, room), blackColor);
+                    fitted(line.value, invoiceDataFont, room).font, blackColor);
     }
     tableStartPoint = QPointF(tableLeft, tableTop());
 }
@@ -228,10 +244,9 @@ void PrintInvoice::drawTableHead(Canvas& canvas, double top) const
     const QFont& wanted = titles.size() == tenColumns.size() ? smallColumnTitleFont : colTitleFont;
     canvas.fill({tableLeft, top - tableLine, frame().width() - 2 * tableLeft, tableLine}, titleColor);
     for (std::size_t i = 0; i < std::min(titles.size(), columns.size()); ++i) {
-        const QFont font = fittingFont(titles[i].title, wanted, columns[i].width - 2);
-        const QSizeF size = textSize(titles[i].title, font);
-        canvas.text({columns[i].centre - size.width() / 2, top - 2 - size.height()}, titles[i].title, font,
-                    whiteColor);
+        const FittedText shown = fitted(titles[i].title, wanted, columns[i].width - 2);
+        canvas.text({columns[i].centre - shown.size.width() / 2, top - 2 - shown.size.height()},
+                    titles[i].title, shown.font, whiteColor);
     }
 }
 
@@ -258,9 +273,9 @@ void PrintInvoice::drawRow(Canvas& canvas, const ProductDocumentRow& row, int nu
         const bool isName = identifier == "name"_L1;
         double y = firstLine;
         for (const QString& line : isName ? nameLines(row) : QStringList{cellText(row, number, identifier)}) {
-            const QFont font = fittingFont(line, colDataFont, columns[i].width - cellInset);
-            const double width = textSize(line, font).width();
-            canvas.text({cellLeft(columns[i], alignmentOf(identifier), width), y}, line, font, blackColor);
+            const FittedText shown = fitted(line, colDataFont, columns[i].width - cellInset);
+            const double x = cellLeft(columns[i], alignmentOf(identifier), shown.size.width());
+            canvas.text({x, y}, line, shown.font, blackColor);
             y -= tableLine;
         }
     }
@@ -341,9 +356,9 @@ void PrintInvoice::drawTotals(Canvas& canvas, double top)
     double y = top - firstSum;
     for (const auto& [label, value] : sumLines()) {
         const double labelWidth = textSize(label, titlesFont).width();
-        const double valueWidth = textSize(value, invoiceDataFont).width();
+        const FittedText shown = fitted(value, invoiceDataFont, sumLabelsEnd - 4 - leastGap);
         canvas.text({right - sumLabelsEnd - labelWidth, y}, label, titlesFont, titlesColor);
-        canvas.text({right - valueWidth - 4, y}, value, invoiceDataFont, blackColor);
+        canvas.text({right - shown.size.width() - 4, y}, value, shown.font, blackColor);
         y -= sumLine;
     }
     drawPaymentLines(canvas, top - sumsDepth() - paymentGap);
@@ -366,7 +381,7 @@ void PrintInvoice::drawPaymentLines(Canvas& canvas, double bottom) const
 {
     const double room = sumsLeft() - left - 4;
     const auto line = [&](double y, const QString& words, const QString& rest) {
-        const QFont bold = fittingFont(words + rest, smallBoldFont, room); // which is the wider one
+        const QFont bold = fitted(words + rest, smallBoldFont, room).font; // which is the wider one
         QFont plain(smallFont);
         plain.setPixelSize(bold.pixelSize());
         canvas.text({left, y}, words, bold, blackColor);
@@ -384,8 +399,9 @@ void PrintInvoice::drawBankLines(Canvas& canvas, double top) const
     double y = top;
     for (const auto& [label, value] : bankLines()) {
         y -= bankLine;
-        canvas.text({left, y}, label, smallFont, blackColor);
-        canvas.text({valueLeft, y}, value, smallFont, blackColor);
+        canvas.text({left, y}, label, fitted(label, smallFont, valueLeft - left - leastGap).font, blackColor);
+        canvas.text({valueLeft, y}, value, fitted(value, smallFont, frame().width() - valueLeft).font,
+                    blackColor);
     }
 }
 

@@ -55,6 +55,12 @@ private:
         double depth; // below the form's title
     };
     using Lines = std::vector<std::pair<QString, QString>>; // label and value
+    struct CompanyLine {
+        QString text;
+        QFont font;
+        double depth; // below the top of the sheet
+    };
+    std::vector<CompanyLine> companyLines() const;
     std::vector<TitleLine> titleLines() const;
     Lines sumLines() const;
     Lines bankLines() const;

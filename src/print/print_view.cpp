@@ -69,13 +69,15 @@ QStringList PrintView::splitRow(const QString& text, double width) const
     return result;
 }
 
-QFont PrintView::fittingFont(const QString& text, const QFont& font, double width) const
+auto PrintView::fitted(const QString& text, const QFont& font, double width) const -> FittedText
 {
     constexpr int smallest = 4;
-    QFont fitting(font);
-    while (fitting.pixelSize() > smallest && textSize(text, fitting).width() > width)
-        fitting.setPixelSize(fitting.pixelSize() - 1);
-    return fitting;
+    FittedText result{font, textSize(text, font)};
+    while (result.size.width() > width && result.font.pixelSize() > smallest) {
+        result.font.setPixelSize(result.font.pixelSize() - 1);
+        result.size = textSize(text, result.font);
+    }
+    return result;
 }
 
 QString PrintView::numberText(const Decimal& value)

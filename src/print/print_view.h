@@ -67,8 +67,12 @@ public:
     // The box of a line of text, points; quick, since the form keeps what it learned of its fonts.
     QSizeF textSize(const QString& text, const QFont& font) const { return m_faces->textSize(text, font); }
     FontFaces& faces() const { return *m_faces; }
+    struct FittedText {
+        QFont font;
+        QSizeF size; // of the text in that font
+    };
     // The font itself, or as much smaller as a text needs that would leave its place; not below 4 points.
-    QFont fittingFont(const QString& text, const QFont& font, double width) const;
+    FittedText fitted(const QString& text, const QFont& font, double width) const;
 
     // A figure: two digits, groups parted by a blank, the locale's decimal separator.
     static QString numberText(const Decimal& value);

@@ -18,8 +18,6 @@ constexpr double leastMargin = 1;      // between a text and the edge of its cel
 constexpr double headingHeight = 45;   // of the heading of a table
 constexpr double titleHeight = 40;     // of what stands above it
 constexpr double bandBottomBelow = 75; // the top of the sheet
-constexpr double textRise = 3;         // of a text above the lower edge of its line
-constexpr int smallestFont = 4;
 
 QStringList titlesOf(const std::vector<TableForm::Column>& columns)
 {
@@ -71,24 +69,10 @@ bool isCentred(CellKind kind)
     return kind == CellKind::Date || kind == CellKind::CheckBox;
 }
 
-// A text and the font that it fits its place with: what would run over the neighbour is drawn smaller.
-struct FittedText {
-    FittedText(FontFaces& faces, const QString& text, const QFont& wanted, double available) : font(wanted)
-    {
-        size = faces.textSize(text, font);
-        while (size.width() > available && font.pixelSize() > smallestFont) {
-            font.setPixelSize(font.pixelSize() - 1);
-            size = faces.textSize(text, font);
-        }
-    }
-    QFont font;
-    QSizeF size;
-};
-
 // How far a text stands above the lower edge of its line.
-double rise(const FittedText& fitted)
+double rise(const QSizeF& text)
 {
-    return (TableForm::lineHeight - fitted.size.height()) / 2;
+    return (TableForm::lineHeight - text.height()) / 2;
 }
 
 // Line feeds and tabs that came in with a comment: a cell has its own lines.
@@ -237,14 +221,14 @@ void TableForm::drawRect(Canvas& canvas)
     const double top = frame().height() - delta;
     canvas.fill(QRectF({0, 0}, frame()), whiteColor);
     printLogo(canvas);
-    const FittedText formTitle(faces(), title, titleFont, width - 10 - leastMargin);
+    const FittedText formTitle = fitted(title, titleFont, width - 10 - leastMargin);
     canvas.text({width - formTitle.size.width() - 10, top - 30}, title, formTitle.font, titleColor);
     if (const QString line = heading(); !line.isEmpty()) {
-        const FittedText text(faces(), line, dataFont, width - 12 - leastMargin);
+        const FittedText text = fitted(line, dataFont, width - 12 - leastMargin);
         canvas.text({width - text.size.width() - 12, top - titleHeight}, line, text.font, blackColor);
     }
     if (const QString line = furtherHeading(); !line.isEmpty()) {
-        const FittedText text(faces(), line, dataFont, m_blocks.back().second - m_blocks.front().first);
+        const FittedText text = fitted(line, dataFont, m_blocks.back().second - m_blocks.front().first);
         canvas.text({m_blocks.front().first, tableTop() + lineHeight + 4}, line, text.font, blackColor);
     }
     drawTable(canvas);
@@ -301,8 +285,8 @@ void TableForm::drawTitles(Canvas& canvas, double bandTop) const
 
 void TableForm::drawTitle(Canvas& canvas, const QString& text, double centre, double width, double top) const
 {
-    const FittedText fitted(faces(), text, colTitleFont, width - 2 * leastMargin);
-    canvas.text({centre - fitted.size.width() / 2, top - 2 - fitted.size.height()}, text, fitted.font,
+    const FittedText shown = fitted(text, colTitleFont, width - 2 * leastMargin);
+    canvas.text({centre - shown.size.width() / 2, top - 2 - shown.size.height()}, text, shown.font,
                 whiteColor);
 }
 
@@ -330,10 +314,10 @@ void TableForm::drawText(Canvas& canvas, const Row& row, std::size_t column, dou
     for (const QStringView part : qTokenize(cell, u'\n')) {
         const bool isFirst = part.begin() == QStringView(cell).begin();
         const QString line = (isFirst ? part.mid(blanks) : part).toString();
-        const FittedText fitted(faces(), line, font, isFirst ? available - indent : available);
-        const double in = std::min(indent, available - fitted.size.width());
+        const FittedText shown = fitted(line, font, isFirst ? available - indent : available);
+        const double in = std::min(indent, available - shown.size.width());
         y -= lineHeight;
-        canvas.text({leftOf(column) + textInset + std::max(in, 0.0), y + rise(fitted)}, line, fitted.font,
+        canvas.text({leftOf(column) + textInset + std::max(in, 0.0), y + rise(shown.size)}, line, shown.font,
                     colorOf(row));
     }
 }
@@ -344,10 +328,10 @@ void TableForm::drawFigure(Canvas& canvas, const Row& row, std::size_t column, d
     const QString& text = row.cells[column];
     const bool inTheMiddle = isCentred(columns[column].kind);
     const double margin = inTheMiddle ? 2 * leastMargin : numberInset + leastMargin;
-    const FittedText fitted(faces(), text, fontOf(row), colWidth[column] - margin);
-    const double x = inTheMiddle ? axis[column] - fitted.size.width() / 2
-                                 : rightOf(column) - numberInset - fitted.size.width();
-    canvas.text({x, top - lineHeight + rise(fitted)}, text, fitted.font, colorOf(row));
+    const FittedText shown = fitted(text, fontOf(row), colWidth[column] - margin);
+    const double x = inTheMiddle ? axis[column] - shown.size.width() / 2
+                                 : rightOf(column) - numberInset - shown.size.width();
+    canvas.text({x, top - lineHeight + rise(shown.size)}, text, shown.font, colorOf(row));
 }
 
 } // namespace zelvor

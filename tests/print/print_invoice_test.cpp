@@ -155,6 +155,44 @@ TEST_F(InvoiceForm, withALogoTheTitleStandsOnItsLowerEdgeAndTheCompanyBelowIt)
     expectAt(pages.word(u"Company"_s), 10, 752 - 62 - height(invoice->columnTitleFont) - 4);
 }
 
+TEST_F(InvoiceForm, belowALogoTheTableLeavesRoomForTheCompanysLastLine)
+{
+    settings([](Params& params) {
+        params.printCompanyLogo = true;
+        params.useVATNo = true;
+        params.vatNumber = u"XX140"_s;
+    });
+    ZELVOR_NEEDS_PDF_TOOLS();
+    PrintedPages pages = print();
+    const double bandTop = invoice->tableStartPoint->y();
+    EXPECT_NEAR(pages.word(u"XX140"_s).bottom, bandTop + 2, nearHeight);
+    EXPECT_LT(bandTop, lineOf(pages, u"BILL"_s) - 20 - 2);
+
+    // A customer with more lines pushes it down by itself.
+    customer->address = u"Lane"_s;
+    customer->city = u"Village"_s;
+    customer->phone = u"777"_s;
+    pages = print();
+    EXPECT_NEAR(invoice->tableStartPoint->y(), lineOf(pages, u"777"_s) - 20, nearHeight);
+    EXPECT_GT(pages.word(u"XX140"_s).bottom, invoice->tableStartPoint->y() + 2);
+}
+
+TEST_F(InvoiceForm, longLinesOfTheCompanyEndBeforeTheHeadAndTheBanksOnTheSheet)
+{
+    settings([](Params& params) {
+        params.companyName = u"Larkmoor Manufacturers and Wholesalers of Bicycles and of their Parts Ltd"_s;
+        params.companyAddress = u"Unit 14, Canal Business Park, 221 Wharf Lane, Larkmoor LM2 4QT, County"_s;
+        params.printBankDetails = true;
+        params.bankAccountName = u"Wholesale "_s.repeated(20) + u"Holder"_s;
+    });
+    ZELVOR_NEEDS_PDF_TOOLS();
+    const PrintedPages pages = print();
+    const double labels = titlePoint().x() - 80;
+    EXPECT_LT(pages.word(u"Ltd"_s).right, labels);
+    EXPECT_LT(pages.word(u"County"_s).right, labels);
+    EXPECT_LT(pages.word(u"Holder"_s).right, 523);
+}
+
 TEST_F(InvoiceForm, theCompanysLinesStandBelowEachOtherAtTheLeft)
 {
     ZELVOR_NEEDS_PDF_TOOLS();

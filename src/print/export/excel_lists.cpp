@@ -44,9 +44,10 @@ QString excelTableOf(const DocumentJournalView& view, const ExcelTexts& texts)
     return table.take();
 }
 
+// The list shows more than is written, so only the titles of what is.
 QString excelTableOf(const PropertyJournalView& view, const ExcelTexts& texts)
 {
-    ExcelTable table(view.columns());
+    ExcelTable table(view.columns(), {u"name"_s, u"date"_s, u"cost"_s, u"currentCost"_s, u"isAmortized"_s});
     const int count = view.numberOfRows();
     for (int row = 0; row < count; ++row) {
         const auto cell = [&](const QString& identifier) { return view.value(row, identifier); };

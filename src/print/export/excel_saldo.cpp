@@ -4,8 +4,6 @@
 #include "reports/contragents_report_view.h"
 #include "reports/statement_view.h"
 
-#include <algorithm>
-
 namespace zelvor {
 
 using namespace Qt::Literals::StringLiterals;
@@ -13,22 +11,13 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // These views show their figures in another order, so the titles are put above the cells they belong to.
-std::vector<ViewColumn> columnsOf(const TableView& view, const QStringList& identifiers)
-{
-    const std::vector<ViewColumn> all = view.columns();
-    std::vector<ViewColumn> columns;
-    for (const QString& identifier : identifiers)
-        columns.push_back(*std::ranges::find(all, identifier, &ViewColumn::identifier));
-    return columns;
-}
-
 const QStringList saldoFigures{u"startSaldo"_s, u"finishSaldo"_s, u"credit"_s, u"debit"_s};
 
 } // namespace
 
 QString excelTableOf(const ContragentsReportView& view, const ExcelTexts& texts)
 {
-    ExcelTable table(columnsOf(view, QStringList{u"name"_s} + saldoFigures));
+    ExcelTable table(view.columns(), QStringList{u"name"_s} + saldoFigures);
     for (const ContragentsReportRow* row : view.rows()) {
         QStringList cells{row->contragent ? row->contragent->name : row->name};
         for (const QString& figure : saldoFigures)
@@ -40,7 +29,7 @@ QString excelTableOf(const ContragentsReportView& view, const ExcelTexts& texts)
 
 QString excelTableOf(const StatementView& view, const ExcelTexts& texts)
 {
-    ExcelTable table(columnsOf(view, QStringList{u"name"_s, u"date"_s} + saldoFigures));
+    ExcelTable table(view.columns(), QStringList{u"name"_s, u"date"_s} + saldoFigures);
     for (int row = 0; row < view.numberOfRows(); ++row) {
         QStringList cells{view.value(row, u"name"_s).toString(), texts.date(view.value(row, u"date"_s))};
         for (const QString& figure : saldoFigures)

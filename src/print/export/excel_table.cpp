@@ -3,6 +3,8 @@
 #include "core/formats.h"
 #include "core/localized.h"
 
+#include <algorithm>
+
 namespace zelvor {
 
 using namespace Qt::Literals::StringLiterals;
@@ -71,12 +73,20 @@ QString ExcelTexts::cell(const QVariant& cell, CellKind kind) const
 
 ExcelTable::ExcelTable(const std::vector<ViewColumn>& columns)
 {
-    m_text += u"<tr>";
+    QStringList titles;
     for (const ViewColumn& column : columns) {
         if (!column.hidden)
-            m_text += u"<td>"_s + column.title + u"</td>"_s;
+            titles << column.title;
     }
-    m_text += u"</tr>";
+    addRow(titles);
+}
+
+ExcelTable::ExcelTable(const std::vector<ViewColumn>& columns, const QStringList& identifiers)
+{
+    QStringList titles;
+    for (const QString& identifier : identifiers)
+        titles << std::ranges::find(columns, identifier, &ViewColumn::identifier)->title;
+    addRow(titles);
 }
 
 void ExcelTable::addRow(const QStringList& cells)

@@ -37,6 +37,9 @@ public:
     ExcelTable() = default;
     // Begins with the titles of the visible columns.
     explicit ExcelTable(const std::vector<ViewColumn>& columns);
+    // Begins with the titles of those columns, in that order: for a table whose cells are not those that the
+    // view shows.
+    ExcelTable(const std::vector<ViewColumn>& columns, const QStringList& identifiers);
 
     void add(const QString& markup) { m_text += markup; }
     void addRow(const QStringList& cells);

@@ -18,9 +18,16 @@ protected:
     }
     ~Export() override { QLocale::setDefault(m_locale); }
 
+    // Whatever it is of, each line has a cell under each title.
     QString exported(const BaseView& view) const
     {
-        return excelTable(view, books.appDelegate.calendar).value_or(QStringLiteral("no table"));
+        const QString text =
+            excelTable(view, books.appDelegate.calendar).value_or(QStringLiteral("no table"));
+        const QStringList lines = text.split(QStringLiteral("<tr>")).mid(1);
+        const bool hasTitlesInTwoLines = text.contains(QStringLiteral("<td rowspan=2>"));
+        for (qsizetype i = 1; i < lines.size() && !hasTitlesInTwoLines; ++i)
+            EXPECT_EQ(cellCount(lines[i]), cellCount(lines[0])) << qPrintable(lines[i]);
+        return text;
     }
     // A line of markup as every list writes it.
     static QString line(const QStringList& cells)
@@ -44,6 +51,8 @@ protected:
     Books books;
 
 private:
+    static qsizetype cellCount(const QString& line) { return line.count(QStringLiteral("<td>")); }
+
     QLocale m_locale;
 };
 
