@@ -170,15 +170,27 @@ void PrintInvoice::drawCompanyData(Canvas& canvas)
     }
 }
 
+// A customer's long name or address takes several lines, for it would leave the sheet.
+QStringList PrintInvoice::titleValueLines(const QString& value) const
+{
+    const double room = frame().width() - titlePoint().x();
+    if (textSize(value, invoiceDataFont).width() <= room)
+        return {value};
+    // The lines are measured in another size of the same font.
+    return splitRow(value, room * colDataFont.pixelSize() / invoiceDataFont.pixelSize());
+}
+
 auto PrintInvoice::titleLines() const -> std::vector<TitleLine>
 {
     const double labelHeight = textSize({}, titlesFont).height();
     const double valueHeight = textSize({}, invoiceDataFont).height();
     const qint64 due = document->payToDate != 0 ? document->payToDate : document->date;
     std::vector<TitleLine> lines{{localized("INVOICE #"), QString::number(document->docNumber), 20}};
-    const auto add = [&](const QString& label, const QString& value) {
-        const double height = label.isEmpty() ? valueHeight : labelHeight;
-        lines.push_back({label, value, lines.back().depth + height + 2});
+    const auto add = [&](QString label, const QString& value) {
+        for (const QString& line : titleValueLines(value)) {
+            const double height = label.isEmpty() ? valueHeight : labelHeight;
+            lines.push_back({std::exchange(label, {}), line, lines.back().depth + height + 2});
+        }
     };
     add(localized("DATE:"), dateText(document->date));
     add(localized("DUE BY:"), dateText(due));

@@ -62,6 +62,7 @@ private:
     };
     std::vector<CompanyLine> companyLines() const;
     std::vector<TitleLine> titleLines() const;
+    QStringList titleValueLines(const QString& value) const;
     Lines sumLines() const;
     Lines bankLines() const;
     QStringList nameLines(const ProductDocumentRow& row) const;

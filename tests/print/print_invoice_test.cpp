@@ -595,18 +595,32 @@ TEST_F(InvoiceForm, ofAnOpenFormShowsWhatIsTypedIntoIt)
     EXPECT_EQ(plain->document->payToDate, document->date + 3 * secondsPerDay);
 }
 
-TEST_F(InvoiceForm, whatIsTooWideIsDrawnSmallerAndReadsWhole)
+TEST_F(InvoiceForm, aLongNameOfACustomerTakesSeveralLinesAndMovesTheNextOnesDown)
 {
     customer->name = u"Nobody & Daughters, Wholesale of Bicycles and Parts"_s;
+    customer->address = u"Donaudampfschifffahrtsgesellschaftskapitänsmützenweg"_s;
+    customer->city = u"Village"_s;
+    ZELVOR_NEEDS_PDF_TOOLS();
+    const PrintedPages pages = print();
+    const double first = lineOf(pages, u"BILL"_s);
+    const double step = height(invoice->invoiceDataFont) + 2;
+    expectAt(pages.word(u"Nobody"_s), titlePoint().x(), first);
+    EXPECT_NEAR(lineOf(pages, u"Parts"_s), first - step, nearHeight);
+    const PrintedWord address = pages.word(customer->address); // one word, so it is drawn smaller
+    EXPECT_LE(address.right, 523);
+    EXPECT_NEAR(address.bottom, first - 2 * step, 0.6);
+    expectAt(pages.word(u"Village"_s), titlePoint().x(), first - 3 * step);
+    EXPECT_NEAR(invoice->tableStartPoint->y(), first - 3 * step - 20, nearHeight);
+}
+
+TEST_F(InvoiceForm, whatIsTooWideIsDrawnSmallerAndReadsWhole)
+{
     document->withVAT = true;
     addRow(u"Donaudampfschifffahrtsgesellschaftskapitän"_s, 1'234'567, 1234.5, 20);
     sums(1);
     settings([](Params& params) { params.companyMail = u"accounts.department@company.example"_s; });
     ZELVOR_NEEDS_PDF_TOOLS();
     const PrintedPages pages = print();
-    const PrintedWord parts = pages.word(u"Parts"_s);
-    EXPECT_LE(parts.right, 523);
-    EXPECT_NEAR(parts.bottom, pages.word(u"BILL"_s).bottom, 0.6);
     EXPECT_LE(pages.word(u"Donaudampfschifffahrtsgesellschaftskapitän"_s).right, 21.5 + 140);
     EXPECT_GE(pages.word(u"567.00"_s).right, 200); // 1 234 567.00 within its 45 points
     EXPECT_LE(pages.word(u"567.00"_s).right, 214 + 22.5);
