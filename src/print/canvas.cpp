@@ -1,10 +1,12 @@
 #include "print/canvas.h"
 
+#include <QtGui/QPaintEngine>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
 #include <QtGui/QPen>
 
 #include <algorithm>
+#include <cmath>
 
 namespace zelvor {
 
@@ -101,14 +103,24 @@ Canvas::Path::Line Canvas::visiblePart(Path::Line line, const Path& path) const
     return line;
 }
 
+// What the lengths of a dash pattern count, points: widths of the line; but where a picture is painted, a
+// line thinner than a pixel has a pattern of pixels.
+double Canvas::dashUnit(double lineWidth) const
+{
+    if (m_painter.paintEngine()->type() != QPaintEngine::Raster)
+        return lineWidth;
+    const QTransform toPixels = m_painter.combinedTransform();
+    return std::max(lineWidth, 1 / (units * std::hypot(toPixels.m11(), toPixels.m12())));
+}
+
 void Canvas::stroke(const Path& path, const Color& color)
 {
     QPen pen(toQColor(color), path.lineWidth * units);
     pen.setCapStyle(Qt::FlatCap);
     if (!path.dashes.empty()) {
-        QList<qreal> pattern; // in widths of the line
+        QList<qreal> pattern;
         for (const double length : path.dashes)
-            pattern.append(length / path.lineWidth);
+            pattern.append(length / dashUnit(path.lineWidth));
         pen.setDashPattern(pattern);
     }
     m_painter.setPen(pen);

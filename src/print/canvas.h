@@ -66,6 +66,7 @@ public:
 private:
     Canvas(const Canvas& whole, const QRectF& slice);
     void preparePainter();
+    double dashUnit(double lineWidth) const;
     Path::Line visiblePart(Path::Line line, const Path& path) const;
     QPointF onPainter(const QPointF& point) const;
     QRectF onPainter(const QRectF& rect) const;

@@ -96,9 +96,10 @@ private:
                 points.emplace_back(monthX(month), row.data[month].toDouble() * m_unit + axisY);
         }
         const Color& color = m_graph.colorOf(row);
-        if (points.size() == 1) // a line of one point could not be seen
+        const QRectF sheet(QPointF(0, 0), m_size);
+        if (points.size() == 1 && sheet.contains(points.front())) // a line of one point could not be seen
             m_canvas.wedge(points.front(), dotRadius, 0, 360, color);
-        m_canvas.polyline(points, 3, color, QRectF(QPointF(0, 0), m_size));
+        m_canvas.polyline(points, 3, color, sheet);
     }
 
     const GraphView& m_graph;

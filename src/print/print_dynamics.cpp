@@ -17,7 +17,8 @@ constexpr double pageHeight = 505;   // of landscape A4 between its margins
 constexpr double headingBottom = 45; // below the top of the sheet
 constexpr double graphTop = 52;
 constexpr double graphHeight = 240;
-constexpr double emptyBelowGraph = 30; // of its height, under the labels of the months
+// Of its height, under the labels of the months. What a loss draws there, the titles of the table cover.
+constexpr double emptyBelowGraph = 27;
 constexpr double lineHeight = 15;
 constexpr double bandGap = 12;
 constexpr double textInset = 6;

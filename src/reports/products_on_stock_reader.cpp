@@ -75,7 +75,7 @@ public:
     std::size_t productPlace(qint64 id) const
     {
         // Records are never deleted, so nearly every catalog has its ids without a gap.
-        const auto guess = static_cast<quint64>(id - 1);
+        const auto guess = static_cast<quint64>(id) - 1; // of any id in a strange file
         if (guess < m_products.size() && m_products[guess].id == id)
             return guess;
         const auto place = std::ranges::lower_bound(m_products, id, {}, &ProductFact::id);

@@ -43,9 +43,8 @@ void ProductsOnStockReportView::placeRows()
         parents.emplace(row->id, row.get());
     for (const auto& row : m_rows) {
         const auto above = row->parentID != 0 ? parents.find(row->parentID) : parents.end();
-        if (above != parents.end())
-            above->second->setChild(row);
-        else
+        // What would hang below itself stands at the top, so that nothing that the total counts is missing.
+        if (above == parents.end() || !above->second->setChild(row))
             m_collapsedRows.push_back(row);
         if (!row->folder)
             total->appendData(*row);

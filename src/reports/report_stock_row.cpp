@@ -64,15 +64,16 @@ bool ReportStockRow::isWithin(const ReportStockRow& other) const
     return false;
 }
 
-void ReportStockRow::setChild(const std::shared_ptr<ReportStockRow>& child)
+bool ReportStockRow::setChild(const std::shared_ptr<ReportStockRow>& child)
 {
     if (isWithin(*child))
-        return;
+        return false;
     children.insert(std::ranges::upper_bound(children, child, NameLess{}), child);
     child->parent = weak_from_this();
     child->parentID = id;
     appendData(*child);
     child->indent = indent + indentOfALevel;
+    return true;
 }
 
 void ReportStockRow::appendData(const ReportStockRow& row)

@@ -33,8 +33,9 @@ public:
     Decimal sumTotal() const;
 
     // Takes the row in below this one, six blanks further in, and adds its figures here and above. A row
-    // that holds this one is not taken in: a damaged file can have groups that lead in circles.
-    void setChild(const std::shared_ptr<ReportStockRow>& child);
+    // that holds this one is not taken in, and the answer is false: a damaged file can have groups that lead
+    // in circles.
+    bool setChild(const std::shared_ptr<ReportStockRow>& child);
     // Adds the row's figures, warehouse by warehouse, to this row and every one above it.
     void appendData(const ReportStockRow& row);
     // The row's own warehouses as the reader found them, with figures of 0.

@@ -275,9 +275,9 @@ class Reports:
         for row in rows:
             # The first row with the id, whatever it is: with groups left out it may be a product.
             parent = next((other for other in rows if row["parent"] and other["id"] == row["parent"]), None)
-            if parent is None:
-                top.append(row)
-            elif not self.is_within(parent, row):
+            if parent is None or self.is_within(parent, row):
+                top.append(row)  # below itself it would be nowhere
+            else:
                 parent["children"].append(row)
                 row["above"] = parent
                 parent["children"].sort(key=lambda child: child["name"])

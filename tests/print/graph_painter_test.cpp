@@ -122,12 +122,10 @@ TEST_F(Graph, theGridIsDashedAndLabelledAtTheLeft)
     const Picture drawn = picture();
     for (int step = 1; step <= 6; ++step) {
         const double y = 320.0 / 6 * step + 50;
-        int dark = 0;
-        int light = 0;
-        for (double x = 75; x < 115; x += 0.25)
-            ++(drawn.at(x, y).lightness() < 250 || drawn.at(x, y - 0.2).lightness() < 250 ? dark : light);
-        EXPECT_GT(dark, 40) << step;
-        EXPECT_GT(light, 40) << step;
+        for (double x = 71; x < 111; x += 2) { // one point on, one off
+            EXPECT_TRUE(drawn.isInked({x + 0.25, y - 0.25, 0.5, 0.5})) << step << ' ' << x;
+            EXPECT_FALSE(drawn.isInked({x + 1.25, y - 0.25, 0.5, 0.5})) << step << ' ' << x;
+        }
         EXPECT_TRUE(drawn.isInked({50, y - 5, 15, 10})) << step;
         EXPECT_FALSE(drawn.isInked({65.5, y - 5, 3, 10})) << step;
     }
@@ -185,6 +183,21 @@ TEST_F(Graph, onlyMonthIsADot)
     const double y = 5 * (height - 100) / 6 + 50;
     EXPECT_TRUE(looksLike(picture().at(120, y), graph.realizationColor.color()));
     EXPECT_FALSE(picture().isInked({125, y - 4, 5, 3}));
+}
+
+TEST_F(Graph, aLossOfTheOnlyMonthIsNotDrawnBelowTheSheet)
+{
+    add("Selling", {100});
+    add("Margin", {-100}); // 110 below the lower edge
+    const QSizeF size(graphWidth(graph), height);
+    const QSizeF twice(size.width(), 2 * height);
+    const Picture drawn(twice, [&](Canvas& canvas) {
+        canvas.fill({{0, 0}, twice}, whiteColor);
+        Canvas part = canvas.movedTo({0, height});
+        drawGraph(graph, part, size);
+    });
+    EXPECT_TRUE(drawn.isInked({100, height + 200, 40, 20})) << "the other dot";
+    EXPECT_FALSE(drawn.isInked({1, 1, size.width() - 1, height - 1}));
 }
 
 TEST_F(Graph, zerosNegativesAndWhatIsNoNumberStayHarmless)

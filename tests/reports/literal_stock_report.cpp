@@ -128,12 +128,12 @@ int LiteralStockReport::parentOf(const Row& row) const
     return -1;
 }
 
-void LiteralStockReport::append(int parent, int child)
+// Not below itself: what would lead in a circle stands at the top.
+bool LiteralStockReport::append(int parent, int child)
 {
-    // What leads in a circle is reached from nowhere.
     for (int holder = parent; holder >= 0; holder = m_rows[static_cast<std::size_t>(holder)].parent) {
         if (holder == child)
-            return;
+            return false;
     }
     Row& above = m_rows[static_cast<std::size_t>(parent)];
     Row& below = m_rows[static_cast<std::size_t>(child)];
@@ -146,6 +146,7 @@ void LiteralStockReport::append(int parent, int child)
     for (int holder = parent; holder >= 0; holder = m_rows[static_cast<std::size_t>(holder)].parent)
         addTo(holder, below.stocks);
     below.indent = above.indent + 6;
+    return true;
 }
 
 void LiteralStockReport::addTo(int row, const std::vector<Cell>& figures)
@@ -177,9 +178,7 @@ void LiteralStockReport::buildTree()
     const auto last = static_cast<int>(m_rows.size()) - 1;
     for (int index = 0; index < count; ++index) {
         const int parent = parentOf(m_rows[static_cast<std::size_t>(index)]);
-        if (parent >= 0)
-            append(parent, index);
-        else
+        if (parent < 0 || !append(parent, index))
             m_top.push_back(index);
         if (!m_rows[static_cast<std::size_t>(index)].folder)
             addTo(last, m_rows[static_cast<std::size_t>(index)].stocks);

@@ -45,7 +45,7 @@ private:
     Decimal amountOf(qint64 stockID, qint64 productID);
     void readRows();
     int parentOf(const Row& row) const;
-    void append(int parent, int child);
+    bool append(int parent, int child);
     void addTo(int row, const std::vector<Cell>& figures);
     void buildTree();
     void open(const std::vector<int>& list);

@@ -62,6 +62,19 @@ TEST(ReportStockRow, figuresRiseToEveryAncestorWarehouseByWarehouse)
     EXPECT_EQ(root->sumTotal(), Decimal(33));
 }
 
+TEST(ReportStockRow, aRowThatHoldsThisOneIsNotTakenIn)
+{
+    const auto root = stockRow(1, u"Root"_s, 0, 0);
+    const auto leaf = stockRow(2, u"Leaf"_s, 5, 7);
+    EXPECT_TRUE(root->setChild(leaf));
+    EXPECT_FALSE(leaf->setChild(root));
+    EXPECT_FALSE(root->setChild(root));
+    EXPECT_TRUE(leaf->children.empty());
+    EXPECT_TRUE(root->parent.expired());
+    EXPECT_EQ(root->children.size(), 1U);
+    EXPECT_EQ(root->stocks[0].amount, Decimal(5));
+}
+
 TEST(ReportStockRow, childrenAreKeptByName)
 {
     const auto root = stockRow(1, u"Root"_s, 0, 0);
