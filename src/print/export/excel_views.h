@@ -17,7 +17,8 @@ class PropertyJournalView;
 class StatementView;
 
 // The table of each kind of view. Which cells a row has, and in which order, is told here and not by the
-// columns of the view: the titles above follow the columns and can stand in another order.
+// columns of the view. The titles are those of the columns; a view that shows more than is written, or in
+// another order, names those of its cells.
 QString excelTableOf(const PeriodSellReportView& view, const ExcelTexts& texts);
 QString excelTableOf(const ContragentsReportView& view, const ExcelTexts& texts);
 QString excelTableOf(const StatementView& view, const ExcelTexts& texts);
