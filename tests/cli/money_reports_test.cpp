@@ -54,12 +54,13 @@ TEST_F(MoneyReports, aSpendingsRowHasItsCells)
 {
     const QByteArray out =
         run({"report", "expends", project, "--from", "2024-01-01", "--to", "2024-01-05"}).out;
-    EXPECT_TRUE(out.contains(R"("columns":["date","name","constant","variable","total","comment"])"))
+    EXPECT_TRUE(out.contains(R"("columns":["name","date","constant","variable","total","comment"])"))
         << out.constData();
-    EXPECT_TRUE(out.contains(R"({"kind":"document","date":1704445200,"name":")")) << out.constData();
-    EXPECT_TRUE(out.contains(R"("constant":100.5,"variable":"","total":100.5,"comment":"January"})"))
+    EXPECT_TRUE(out.contains(R"({"kind":"document","name":"      Money Document )")) << out.constData();
+    EXPECT_TRUE(out.contains(
+        R"("date":1704445200,"constant":100.5,"variable":"","total":100.5,"comment":"January"})"))
         << out.constData();
-    EXPECT_TRUE(out.contains(R"({"kind":"footer","date":"","name":"TOTAL FOR PERIOD:","constant":100.5,)"
+    EXPECT_TRUE(out.contains(R"({"kind":"footer","name":"TOTAL FOR PERIOD:","date":"","constant":100.5,)"
                              R"("variable":"","total":100.5,"comment":""})"))
         << out.constData();
 }
