@@ -12,7 +12,7 @@ namespace zelvor {
 using Sink = std::function<bool(const QByteArray& piece)>;
 
 // Lets `write` write to standard output, or to the file at `path`, whole or not at all. The answer is an exit
-// code; what went wrong with the file was told. A `write` that answers false told its own fault, if any.
+// code; what could not be written was told. A `write` that answers false by itself told its own fault.
 int deliver(const std::optional<QString>& path, const std::function<bool(const Sink&)>& write);
 
 } // namespace zelvor

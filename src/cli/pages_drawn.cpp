@@ -46,20 +46,21 @@ private:
     std::optional<QGuiApplication> m_application;
 };
 
-int deliverPdf(PrintView& form, const std::optional<QString>& path)
-{
-    if (!form.warning.isEmpty())
-        writeError(form.warning);
-    return deliver(path, [&](const Sink& sink) {
-        QBuffer buffer;
-        return buffer.open(QIODevice::WriteOnly) && writePdf(form, buffer) && sink(buffer.data());
-    });
-}
-
 int refused(const QString& sentence)
 {
     writeError(sentence);
     return exitRefused;
+}
+
+int deliverPdf(PrintView& form, const std::optional<QString>& path)
+{
+    if (!form.warning.isEmpty())
+        writeError(form.warning);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    if (!writePdf(form, buffer))
+        return refused(u"the pages cannot be drawn"_s);
+    return deliver(path, [&](const Sink& sink) { return sink(buffer.data()); });
 }
 
 } // namespace
@@ -72,6 +73,8 @@ int printReportForm(const Report& report, const Arguments& arguments)
         return exitBadUsage;
     return report.run(program.appDelegate, arguments, [&](const ReportTable& table) {
         const std::unique_ptr<PrintView> form = makePrintForm(table.view, program.appDelegate);
+        if (!program.hasReadAll())
+            return static_cast<int>(exitBadUsage);
         if (form)
             return deliverPdf(*form, arguments.value(u"-o"_s));
         const QString alert = program.dialogs.takeText();
@@ -89,6 +92,8 @@ int printInvoice(const QString& project, qint64 id, const QString& path)
         program.appDelegate.connector.select<ProductDocument>(id);
     const std::unique_ptr<PrintInvoice> form =
         document ? makeInvoice(program.appDelegate, document) : nullptr;
+    if (!program.hasReadAll())
+        return exitBadUsage;
     if (form)
         return deliverPdf(*form, path);
     const QString whose = u"product document "_s + QString::number(id);

@@ -1,11 +1,13 @@
 #include "cli/program.h"
 
 #include "cli/output.h"
+#include "cli/watched_connector.h"
 #include "shell/project_tables.h"
 
 #include <QtCore/QFile>
 
 #include <filesystem>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -21,7 +23,12 @@ QString UnattendedDialogs::takeText()
     return std::exchange(m_text, QString());
 }
 
-Program::Program() : appDelegate({m_clock, Calendar(QTimeZone::systemTimeZone()), dialogs, m_defaults}) {}
+Program::Program() : Program(std::make_unique<WatchedConnector>()) {}
+
+Program::Program(std::unique_ptr<WatchedConnector> connector)
+    : m_connector(*connector),
+      appDelegate({m_clock, Calendar(QTimeZone::systemTimeZone()), dialogs, m_defaults}, std::move(connector))
+{}
 
 bool Program::open(const QString& path, Access access)
 {
@@ -37,6 +44,15 @@ bool Program::open(const QString& path, Access access)
         return true;
     writeError(problem);
     return false;
+}
+
+bool Program::hasReadAll() const
+{
+    // A link into a table that cannot be read is left empty without a word.
+    const bool hasAll = hasAllTables(appDelegate.connector) && !m_connector.hasFailedReads();
+    if (!hasAll)
+        writeError(m_connector.path() + u": not everything that was asked of it could be read"_s);
+    return hasAll;
 }
 
 bool isSameFile(const QString& a, const QString& b)

@@ -6,7 +6,11 @@
 
 #include <QtCore/QString>
 
+#include <memory>
+
 namespace zelvor {
+
+class WatchedConnector;
 
 // Nobody is there to answer: alerts are kept for the caller, questions are answered with the last button
 // ("Cancel"), panels are cancelled.
@@ -37,6 +41,9 @@ public:
     // Opens a project for the command; on failure one line went to standard error. For writing, the file must
     // be writable and have all tables of a project.
     bool open(const QString& path, Access access);
+    // Whether the open project has all tables and all that was asked of it could be read; if not, one line
+    // went to standard error.
+    bool hasReadAll() const;
 
 private:
     struct SwitchingClock final : Clock {
@@ -45,8 +52,11 @@ private:
         qint64 now() const override { return source->now(); }
     };
 
+    explicit Program(std::unique_ptr<WatchedConnector> connector);
+
     SwitchingClock m_clock;
     DefaultsStore m_defaults;
+    const WatchedConnector& m_connector; // the application's
 
 public:
     UnattendedDialogs dialogs;

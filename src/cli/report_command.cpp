@@ -149,6 +149,9 @@ int run(const Arguments& arguments)
         return exitBadUsage;
     const Calendar& calendar = program.appDelegate.calendar;
     return report->run(program.appDelegate, arguments, [&](const ReportTable& table) {
+        // What was computed from half of the documents looks just like a report.
+        if (!program.hasReadAll())
+            return static_cast<int>(exitBadUsage);
         return deliver(path, [&](const Sink& sink) { return format->print(table, calendar, sink); });
     });
 }

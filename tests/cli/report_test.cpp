@@ -177,14 +177,49 @@ TEST_F(ReportCommand, aFileThatIsNoRegularOneIsLeftAsItIs)
     EXPECT_TRUE(QFileInfo(pipe).exists() && !QFileInfo(pipe).isFile());
 }
 
-TEST_F(ReportCommand, aTextThatCannotBeWrittenIsARefusal)
+TEST_F(ReportCommand, aFileWithoutANameIsBadUsage)
 {
-    QProcess process;
-    prepare(process);
-    process.setStandardOutputFile("/dev/full");
-    process.start(ZELVOR_CLI, {"report", "balance", project});
-    ASSERT_TRUE(process.waitForFinished());
-    EXPECT_EQ(process.exitCode(), 1);
+    for (const char* format : {"json", "pdf"}) {
+        const CliRun nameless = run({"report", "balance", project, "--format", format, "-o", ""});
+        EXPECT_EQ(nameless.exitCode, 2);
+        EXPECT_TRUE(nameless.saysOneLine()) << nameless.err.constData();
+    }
+}
+
+TEST_F(ReportCommand, aTextThatCannotBeWrittenIsARefusalAndTold)
+{
+    for (const char* target : {">/dev/full", ">&-"}) {
+        for (const char* format : {"json", "text", "csv", "xls", "pdf"}) {
+            QProcess process;
+            prepare(process);
+            process.start("sh", {"-c", QString("exec \"$0\" \"$@\" %1").arg(target), ZELVOR_CLI, "report",
+                                 "balance", project, "--format", format});
+            ASSERT_TRUE(process.waitForFinished());
+            EXPECT_EQ(process.exitCode(), 1) << format << target;
+            const QByteArray told = process.readAllStandardError();
+            EXPECT_EQ(told.count('\n'), 1) << format << target << told.constData();
+            EXPECT_TRUE(told.contains("standard output")) << told.constData();
+        }
+    }
+}
+
+TEST_F(ReportCommand, whatCannotAllBeReadIsNoReport)
+{
+    corrupt("ALTER TABLE money_doc DROP COLUMN comment");
+    for (const QStringList& words : {QStringList{"report", "account", project, "--id", "1"},
+                                     {"report", "contragent", project, "--id", "1"},
+                                     {"report", "journal", project, "--from", "2024-01-01"},
+                                     {"report", "account", project, "--id", "1", "--format", "pdf"}}) {
+        const CliRun result = run(words + QStringList{"-o", file("sheet")});
+        EXPECT_EQ(result.exitCode, 2) << qPrintable(words.join(' '));
+        EXPECT_TRUE(result.saysOneLine()) << result.err.constData();
+        EXPECT_FALSE(QFile::exists(file("sheet")));
+    }
+    corrupt("ALTER TABLE product_doc_row DROP COLUMN amount");
+    const CliRun invoice = run({"invoice", project, "2", "-o", file("sheet")});
+    EXPECT_EQ(invoice.exitCode, 2);
+    EXPECT_TRUE(invoice.saysOneLine()) << invoice.err.constData();
+    EXPECT_FALSE(QFile::exists(file("sheet")));
 }
 
 } // namespace zelvor

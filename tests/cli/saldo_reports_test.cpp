@@ -72,6 +72,42 @@ TEST_F(SaldoReports, theStartOfAPeriodIsOutsideForCounterpartiesAndInsideForMone
     EXPECT_EQ(rows(report({"account", "--id", "2", "--from", "2024-01-13", "--to", "2024-01-13"})).size(), 3);
 }
 
+TEST_F(SaldoReports, aMomentInSecondsBindsExactly)
+{
+    const auto count = [&](const char* name, const char* id, const char* from, const char* to) {
+        return rows(report({name, "--id", id, "--from", from, "--to", to})).size() - 2;
+    };
+    EXPECT_EQ(count("contragent", "1", "@1704844799", "@1704844800"), 1);
+    EXPECT_EQ(count("contragent", "1", "@1704844800", "@1704844801"), 0);
+    EXPECT_EQ(count("contragent", "1", "@1704844798", "@1704844799"), 0);
+    EXPECT_EQ(count("account", "2", "@1705190400", "@1705190400"), 1) << "both bounds of money are inside";
+}
+
+TEST_F(SaldoReports, aDayEnds86400SecondsAfterItsMidnightOnDaysOf23And25HoursToo)
+{
+    applied(
+        R"({"do":"document","type":"SellProduct","date":"2024-03-31T22:30:00","contragent":1,"rows":[{"product":1}],"confirm":true}
+{"do":"document","type":"SellProduct","date":"2024-10-27T22:30:00","contragent":1,"rows":[{"product":1}],"confirm":true}
+)",
+        {"--replay"});
+    const auto documentsOn = [&](const char* zone, const char* day) {
+        QProcess process;
+        prepare(process);
+        QProcessEnvironment environment = process.processEnvironment();
+        environment.insert("TZ", zone);
+        process.setProcessEnvironment(environment);
+        process.start(ZELVOR_CLI, {"report", "contragent", project, "--id", "1", "--from", day, "--to", day});
+        EXPECT_TRUE(process.waitForFinished());
+        const CliRun result{process.exitCode(), process.readAllStandardOutput(), {}};
+        return rows(result.json()).size() - 2;
+    };
+    EXPECT_EQ(documentsOn("UTC", "2024-03-31"), 1);
+    EXPECT_EQ(documentsOn("UTC", "2024-10-27"), 1);
+    // 00:30 of the day after the short one, 23:30 of the long one.
+    EXPECT_EQ(documentsOn("Europe/Berlin", "2024-03-31"), 1);
+    EXPECT_EQ(documentsOn("Europe/Berlin", "2024-10-27"), 0);
+}
+
 TEST_F(SaldoReports, aStatementHasTitlesAndDocuments)
 {
     const QJsonObject acme = january({"contragent", "--id", "1"});
