@@ -137,6 +137,33 @@ TEST_F(DynamicsForm, theGraphHasTheColoursThatTheUserChose)
     EXPECT_GT(drawn, 50);
 }
 
+TEST_F(DynamicsForm, aLossIsNotDrawnOverTheFiguresOfTheTable)
+{
+    fill(6);
+    auto loss = std::make_shared<DynamicsReportRow>();
+    loss->name = localized("Margin");
+    for (int month = 0; month < 6; ++month)
+        loss->data.push_back(Decimal(month % 2 == 0 ? 1000 : -60'000));
+    DynamicsReportView::Rows rows = report.reportRows();
+    rows.back() = loss;
+    report.setRows(report.dates(), rows);
+    const auto printed = form();
+    const auto& band = dynamic_cast<const PrintDynamics&>(*printed).bands().front();
+    const QImage page = pictures(*printed, 72).front();
+    const auto amberBetween = [&page](double top, double bottom) {
+        int amber = 0;
+        for (int y = static_cast<int>(45 + top); y < static_cast<int>(45 + bottom); ++y) {
+            for (int x = 0; x < page.width(); ++x) {
+                const QColor color = page.pixelColor(x, y);
+                amber += color.red() > 200 && std::abs(color.green() - 160) < 40 && color.blue() < 80;
+            }
+        }
+        return amber;
+    };
+    EXPECT_GT(amberBetween(band.top - 20, band.top), 5) << "it runs down to the table";
+    EXPECT_EQ(amberBetween(band.top + 15, band.top + 80), 0);
+}
+
 TEST_F(DynamicsForm, nothingToShowIsAPageWithItsTitle)
 {
     const auto empty = form();

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <random>
 
 namespace zelvor {
@@ -107,7 +108,8 @@ TEST_F(ProductsOnStockReport, onlyConfirmedMovementsOfGoodsCountAndEachByItsOwnS
     books.move(BuyProduct, day, shop->id, 0, {{tea->id, 100}});
     books.move(SellProduct, day, 0, shop->id, {{tea->id, 100}});
     books.move(BuyProduct, day, 0, 99, {{tea->id, 100}});
-    books.move(BuyProduct, day, 0, shop->id, {{99, 100}});
+    for (const qint64 nowhere : {qint64{99}, std::numeric_limits<qint64>::min()})
+        books.move(BuyProduct, day, 0, shop->id, {{nowhere, 100}});
     EXPECT_EQ(lines().value(1), u"product|Tea|Shop 10 10"_s);
 }
 
