@@ -28,9 +28,17 @@ bool isThisMachine(const QString& host)
                                                        address.isInSubnet(QHostAddress(u"127.0.0.0"_s), 8)));
 }
 
+// A name means what a name server says; plain http goes to this machine whatever that is.
+QUrl withoutName(QUrl url)
+{
+    if (url.scheme() == u"http" && url.host() == u"localhost")
+        url.setHost(u"127.0.0.1"_s);
+    return url;
+}
+
 QNetworkRequest plainRequest(const QUrl& url)
 {
-    QNetworkRequest request(url);
+    QNetworkRequest request(withoutName(url));
     // Followed here: the manager knows no rule for a redirect's address, and asks more than once for one.
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
     request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
@@ -141,7 +149,7 @@ void HttpExchange::watch(const std::shared_ptr<Exchange>& exchange)
                      [exchange] { exchange->checkAnnouncedSize(); });
     QObject::connect(reply, &QNetworkReply::readyRead, context, [exchange] { exchange->receive(); });
     QObject::connect(reply, &QNetworkReply::finished, context, [this, exchange] { end(exchange); });
-    QTimer::singleShot(static_cast<int>(exchange->deadline.remainingTime()), reply,
+    QTimer::singleShot(static_cast<int>(exchange->deadline.remainingTime()), Qt::PreciseTimer, reply,
                        [reply] { reply->abort(); });
 }
 
@@ -150,7 +158,9 @@ void HttpExchange::end(const std::shared_ptr<Exchange>& exchange)
     QNetworkReply& reply = *exchange->reply;
     reply.disconnect(m_manager.get());
     reply.deleteLater();
-    const bool whole = reply.error() == QNetworkReply::NoError;
+    if (reply.error() == QNetworkReply::NoError)
+        exchange->body += reply.readAll();
+    const bool whole = reply.error() == QNetworkReply::NoError && exchange->body.size() <= largestBody;
     if (const QUrl target = exchange->redirectTarget(); whole && target.isValid()) {
         ++exchange->redirects;
         exchange->body.clear();
@@ -160,7 +170,7 @@ void HttpExchange::end(const std::shared_ptr<Exchange>& exchange)
     --m_pending;
     Reply result{reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt(), whole};
     if (whole)
-        result.body = exchange->body + reply.readAll();
+        result.body = exchange->body;
     if (exchange->ended)
         exchange->ended(result);
 }

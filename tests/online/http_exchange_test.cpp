@@ -218,6 +218,14 @@ TEST_F(Exchange, aBodyOfTheLargestSizeIsTaken)
     EXPECT_EQ(size, HttpExchange::largestBody);
 }
 
+TEST_F(Exchange, aBodyOfOneByteMoreIsNot)
+{
+    const QByteArray body(HttpExchange::largestBody + 1, ' ');
+    for (const char* head : {"HTTP/1.1 200 OK\r\n\r\n", "HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n",
+                             "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n100001\r\n"})
+        expectFailed(fetchRaw(head + body + "\r\n0\r\n\r\n"));
+}
+
 TEST_F(Exchange, aHeadWithoutEndEndsIt)
 {
     server.onRequest = [](const LoopbackServer::Request& request) {
@@ -289,6 +297,14 @@ TEST_F(Exchange, followsARedirectUnderTheSameRule)
     const HttpExchange::Reply reply = fetch(url());
     EXPECT_EQ(reply.status, 200);
     EXPECT_EQ(reply.body, "{\"moved\":1}");
+}
+
+TEST_F(Exchange, asksThisMachineByItsAddressWhateverItsNameMeansElsewhere)
+{
+    server.answerAll("{}");
+    EXPECT_EQ(fetch(QUrl(u"http://localhost:%1/x"_s.arg(server.port()))).status, 200);
+    EXPECT_EQ(LoopbackServer::headerOf(server.requests[0].head, "host"),
+              "127.0.0.1:" + QByteArray::number(server.port()));
 }
 
 TEST_F(Exchange, aRedirectMayNameAPathAlone)

@@ -4,6 +4,8 @@
 
 #include <QtCore/QElapsedTimer>
 
+#include <algorithm>
+
 namespace zelvor {
 
 using namespace Qt::Literals::StringLiterals;
@@ -207,17 +209,46 @@ TEST_F(Rates, twoAnswersOnOneConnectionAreOne)
     EXPECT_EQ(books.posted.count(NotificationName::CurrencyUpdatedNotification), 1U);
 }
 
+TEST_F(Rates, anAnswerThatNobodyAskedForIsNotTakenForThatOfTheNextProject)
+{
+    server.onRequest = [](const LoopbackServer::Request& request) {
+        LoopbackServer::answer(request, "{}");
+        LoopbackServer::answer(request, R"({"2":9})");
+    };
+    ask();
+    ASSERT_TRUE(settle());
+    ASSERT_TRUE(createProject(books.db, books.file(u"other.pdb"_s), rawValue(CurrencyStruct::EUR)));
+    server.answerAll(R"({"2":1.08})");
+    ask();
+    ASSERT_TRUE(settle());
+    EXPECT_EQ(rate(CurrencyStruct::USD), 1.08);
+}
+
 TEST_F(Rates, theLastRequestWinsWhicheverAnswerComesFirst)
 {
-    ask();
-    ask();
-    ASSERT_TRUE(requestsCame(2));
-    LoopbackServer::answer(server.requests[1], R"({"2":2})");
-    ASSERT_TRUE(waitFor([this] { return services->exchange.pending() == 1; }));
-    LoopbackServer::answer(server.requests[0], R"({"2":1})");
-    ASSERT_TRUE(settle());
-    // Which of the two connections was whose is open: one of the answers was dropped.
-    EXPECT_EQ(books.posted.count(NotificationName::CurrencyUpdatedNotification), 1U);
+    for (const bool lastComesFirst : {true, false}) {
+        server.requests.clear();
+        books.posted.clear();
+        books.clock.set(1'700'000'000);
+        ask();
+        books.clock.set(1'700'003'600); // another hour's signature tells the two apart
+        ask();
+        ASSERT_TRUE(requestsCame(2));
+        const QByteArray early = R"({"3":7})";
+        const QByteArray last = R"({"2":2})";
+        // They come over two connections, in any order.
+        std::ranges::partition(server.requests, [](const LoopbackServer::Request& request) {
+            return request.target.endsWith(signature());
+        });
+        ASSERT_FALSE(server.requests[1].target.endsWith(signature()));
+        LoopbackServer::answer(server.requests[lastComesFirst ? 1 : 0], lastComesFirst ? last : early);
+        ASSERT_TRUE(waitFor([this] { return services->exchange.pending() == 1; }));
+        LoopbackServer::answer(server.requests[lastComesFirst ? 0 : 1], lastComesFirst ? early : last);
+        ASSERT_TRUE(settle());
+        EXPECT_EQ(rate(CurrencyStruct::USD), 2);
+        EXPECT_EQ(rate(CurrencyStruct::GBP), 1);
+        EXPECT_EQ(books.posted.count(NotificationName::CurrencyUpdatedNotification), 1U);
+    }
 }
 
 TEST_F(Rates, anAnswerAfterTheProjectWasClosedIsDropped)
@@ -338,6 +369,20 @@ TEST_F(Rates, aFailedWriteLeavesAllAsItWas)
         books.connector->failCall(0);
         expectNothingHappened();
     }
+}
+
+TEST_F(Rates, aDiskThatRefusesThemTakesAllBackAndTellsAsEver)
+{
+    server.answerAll(R"({"2":1.08})");
+    ask();
+    books.connector->failCall(1, FaultInjectingConnector::Commit);
+    ASSERT_TRUE(settle());
+    EXPECT_TRUE(books.connector->hasFailed());
+    EXPECT_EQ(rate(CurrencyStruct::USD), 1);
+    EXPECT_EQ(lastUpdate(), 0);
+    EXPECT_FALSE(told());
+    ASSERT_EQ(books.dialogs.alerts.size(), 1U);
+    EXPECT_EQ(books.dialogs.alerts[0].messageText, u"The changes were not saved!"_s);
 }
 
 TEST_F(Rates, nothingIsAskedForAProjectThatIsOpenForReadingOnly)

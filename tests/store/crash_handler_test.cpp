@@ -121,7 +121,7 @@ TEST_F(Crash, ofAStackThatRanOverIsReported)
     EXPECT_TRUE(onlyReport().contains(u"Crashed thread:\n0 "_s));
 }
 
-TEST_F(Crash, insideTheHandlerEndsTheProcessAsEver)
+TEST_F(Crash, ofAThreadsStackThatRanOverEndsTheProcessWithoutAReport)
 {
     // A thread has no stack of its own for the handler: there is nowhere left to run it.
     EXPECT_EQ(crashBy([] {
@@ -130,7 +130,19 @@ TEST_F(Crash, insideTheHandlerEndsTheProcessAsEver)
                   ::pthread_join(thread, nullptr);
               }),
               -SIGSEGV);
+    EXPECT_TRUE(reportNames().isEmpty());
 }
+
+#if defined(__x86_64__)
+TEST_F(Crash, insideTheHandlerEndsTheProcessAndLeavesWhatWasWritten)
+{
+    // No stack to walk: the handler runs into the same fault as the program.
+    EXPECT_EQ(crashBy([] { asm volatile("mov $0x1000, %%rsp\n\tpush $0" ::: "memory"); }), -SIGSEGV);
+    const QString report = onlyReport();
+    EXPECT_TRUE(report.startsWith(u"Zelvor 1.2.0\n"_s));
+    EXPECT_TRUE(report.contains(u"\nSignal: SIGSEGV\n"_s)) << qPrintable(report);
+}
+#endif
 
 TEST_F(Crash, inAThreadIsReported)
 {
