@@ -66,7 +66,7 @@ TEST_F(Rates, theDefaultCurrencysOwnIsNeverTouched)
 TEST_F(Rates, aValueThatIsNoNumberIsSkipped)
 {
     askAndSettle(
-        R"({"2":"1.08","3":0.92,"4":null,"5":[151],"6":{"rate":7},"7":true,"8":0,"9":-4,"10":1e300})");
+        R"({"2":"1.08","3":0.92,"4":null,"5":[151],"6":{"rate":7},"7":true,"8":0,"9":-4,"10":1e300,"11":1.1e13,"12":1e-9})");
     for (const CurrencyStruct currency : allCurrencies)
         EXPECT_EQ(rate(currency), currency == CurrencyStruct::GBP ? 0.92 : 1) << rawValue(currency);
     EXPECT_EQ(lastUpdate(), books.clock.now());
