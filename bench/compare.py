@@ -19,7 +19,7 @@ import tempfile
 from collections import defaultdict
 from pathlib import Path
 
-PROGRAMS = ["store", "sale", "balance", "sales", "reports"]
+PROGRAMS = ["store", "sale", "balance", "sales", "reports", "print"]
 MEMORY_LIMIT_MB = 32
 
 # task, what it is compared with, at most this many times as much CPU, at most this many milliseconds
@@ -61,6 +61,8 @@ AGAINST_PRODUCTS = [
 AGAINST_PRODUCTS_LIMIT = 2.0
 STATEMENTS = ["contragent-statement", "account-statement", "employee-statement"]
 STATEMENT_SPREAD = 1.2  # a statement does not grow with the rest of the business
+PDF_ROWS = 50000
+PDF_SECONDS = 5.0
 SALE_SPREAD = 1.2  # one sale costs the same at every size
 SALE_SYNCS = 4
 
@@ -145,6 +147,13 @@ def show_own(figures, sizes):
     return missed
 
 
+def show_pdf(figures):
+    seconds = figures["pdf", "zelvor", PDF_ROWS]["cpu"] / 1000
+    print(f"\na PDF of {PDF_ROWS:,} rows: {seconds:.2f} s, {PDF_SECONDS:g} at most: "
+          f"{'met' if seconds <= PDF_SECONDS else 'MISSED'}")
+    return seconds > PDF_SECONDS
+
+
 def peak_memory(build, command, stdin, accepted):
     """Runs the command; its largest resident set in MB."""
     launcher = [str(build / "bench/zelvor-baseline"), "memory"]
@@ -202,6 +211,7 @@ def main():
     with tempfile.TemporaryDirectory(dir=options.build.resolve()) as folder:
         figures = run_benchmarks(options.build.resolve(), sizes, options.rounds, folder)
         missed = show_times(figures, sizes) + show_own(figures, sizes) + show_sale(figures, sizes)
+        missed += show_pdf(figures)
         missed += show_memory(options.build.resolve(), max(sizes), folder)
     return 1 if missed else 0
 
