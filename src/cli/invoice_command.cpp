@@ -20,8 +20,8 @@ int run(const Arguments& arguments)
     const std::optional<QString> path = arguments.value(u"-o"_s);
     if (!path)
         return badUsage(u"invoice: -o must say where to"_s);
-    if (isSameFile(*path, project))
-        return badUsage(u"invoice: -o must not name the project itself"_s);
+    if (belongsToProject(*path, project))
+        return badUsage(u"invoice: -o must not name the project itself or what belongs to it"_s);
     return printInvoice(project, id, *path);
 }
 

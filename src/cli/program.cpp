@@ -5,6 +5,7 @@
 #include "shell/project_tables.h"
 
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 
 #include <filesystem>
 #include <utility>
@@ -62,6 +63,14 @@ bool isSameFile(const QString& a, const QString& b)
         return std::filesystem::path(QFile::encodeName(name).toStdString());
     };
     return std::filesystem::equivalent(pathOf(a), pathOf(b), error);
+}
+
+bool belongsToProject(const QString& path, const QString& project)
+{
+    const QFileInfo asked(path);
+    const QString file = QFileInfo(project).canonicalFilePath();
+    const QString resolved = QFileInfo(asked.absolutePath()).canonicalFilePath() + u'/' + asked.fileName();
+    return isSameFile(path, project) || resolved == file + u"-journal"_s || resolved == file + u".lock"_s;
 }
 
 } // namespace zelvor

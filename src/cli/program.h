@@ -29,6 +29,9 @@ private:
 
 // Whether both paths lead to one file, whose contents are not touched.
 bool isSameFile(const QString& a, const QString& b);
+// Whether the path is the project's file, or the journal or the lock that stand beside it: no answer may be
+// written there.
+bool belongsToProject(const QString& path, const QString& project);
 
 // The engine as one command uses it: the machine's clock (or a replayed one) and zone, nobody to ask.
 class Program {

@@ -139,8 +139,8 @@ int run(const Arguments& arguments)
     if (!format)
         return badUsage(unknownFormat());
     const std::optional<QString> path = arguments.value(u"-o"_s);
-    if (path && isSameFile(*path, project))
-        return badUsage(u"report: -o must not name the project itself"_s);
+    if (path && belongsToProject(*path, project))
+        return badUsage(u"report: -o must not name the project itself or what belongs to it"_s);
     if (!format->print)
         return printReportForm(*report, arguments);
 

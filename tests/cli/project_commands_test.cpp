@@ -196,6 +196,8 @@ TEST_F(CommandLine, refusesBadUsageWithOneLine)
         {"report", "period-sell", project, "--sort", "colour"},
         {"report", "journal", project, "--kind", "money", "--type", "SellProduct"},
         {"report", "balance", project, "-o", project},
+        {"report", "balance", project, "-o", project + "-journal"},
+        {"report", "balance", project, "-o", project + ".lock"},
         {"apply", project, project},
         {"apply", project, file("missing.jsonl")},
         {"import", project, "Product", project},
