@@ -130,7 +130,9 @@ TEST_F(Crash, ofAThreadsStackThatRanOverEndsTheProcessWithoutAReport)
                   ::pthread_join(thread, nullptr);
               }),
               -SIGSEGV);
+#if !defined(__SANITIZE_ADDRESS__) // which gives each thread such a stack
     EXPECT_TRUE(reportNames().isEmpty());
+#endif
 }
 
 #if defined(__x86_64__)
