@@ -16,7 +16,7 @@ zelvor_packages=(
     qt6-wayland qt6-translations-l10n
     fonts-dejavu-core fonts-urw-base35 fonts-liberation
     libgtest-dev libbenchmark-dev
-    python3 tzdata
+    python3 tzdata poppler-utils
     desktop-file-utils appstream shared-mime-info libglib2.0-bin groff-base
 )
 
