@@ -168,7 +168,7 @@ def main(cli, seed):
         accepted = sum(answer["ok"] for answer in answers)
         assert accepted > 0.8 * len(answers), f"a dull business: {accepted} of {len(answers)} accepted"
         check = Check(cli, project)
-        check.everything(random.Random(seed))
+        check.everything(random.Random(Path(seed).name))
         print(f"{accepted} of {len(answers)} operations accepted, {check.cells} cells agree")
 
 

@@ -296,9 +296,8 @@ class Reports:
                 open_rows(line["children"])
 
         open_rows([*top, total])
-        kept = range(len(stocks))
-        if shown:
-            kept = [i for i in kept if shown[-1]["cells"][i][0] > 0]
+        # Without a worth the total is not shown either; then the titles are the last row, and they hold nothing.
+        kept = [i for i in range(len(stocks)) if shown and shown[-1]["cells"][i][0] > 0]
         answer = []
         if rows:
             answer.append(["title", "", [[Decimal(0), Decimal(0)] for _ in kept], Decimal(0), Decimal(0)])
@@ -363,9 +362,9 @@ class Reports:
 
     def payment_calendar(self):
         found = self.read("SELECT * FROM product_doc WHERE left_to_pay>0 AND is_confirmed=1 AND doc_type_id IN "
-                          "(?,?,?,?)", BUY_PRODUCT, SELL_PRODUCT, RETURN, SELL_INTANGIBLES)
+                          "(?,?,?,?) ORDER BY id", BUY_PRODUCT, SELL_PRODUCT, RETURN, SELL_INTANGIBLES)
         found += self.read("SELECT * FROM property_doc WHERE left_to_pay>0 AND is_confirmed=1 AND doc_type_id IN "
-                           "(?,?)", BUY_PROPERTY, SELL_PROPERTY)
+                           "(?,?) ORDER BY id", BUY_PROPERTY, SELL_PROPERTY)
         rows, wanted, owed = [], Decimal(0), Decimal(0)
         for document in sorted(found, key=lambda record: record["date"]):
             left = money(document["left_to_pay"])
