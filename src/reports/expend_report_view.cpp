@@ -58,10 +58,10 @@ CellStyle ExpendReportView::cellStyle(int row, const QString& identifier) const
     CellStyle style;
     style.font = line->groupRow ? CellFont::GatheringBold12 : CellFont::Small;
     style.color = line->groupRow ? inOrderColor : blackColor;
-    const auto shown = columns();
-    const auto column = std::ranges::find(shown, identifier, &ViewColumn::identifier);
-    if (column != shown.end())
-        style.alignment = column->alignment;
+    if (identifier == u"date")
+        style.alignment = CellAlignment::Center;
+    else if (identifier == u"constant" || identifier == u"variable" || identifier == u"total")
+        style.alignment = CellAlignment::Right;
     return style;
 }
 
